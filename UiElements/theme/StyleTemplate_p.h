@@ -1,0 +1,118 @@
+#pragma once
+
+#include <UiElements/theme/ColorTable_p.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+/// A style template, read once and written as often as the theme changes.
+///
+/// Reading cuts the text into the runs that never change and the places where a selector or a color goes; writing then
+/// is one allocation and a row of copies. What it writes is the same, character for character, as replacing the tokens
+/// in the text and expanding the directives of the result.
+///
+/// GUI thread only: an expansion remembers which sets it found where.
+class StyleTemplate
+{
+public:
+    /// Which directives there are and how they are spelled.
+    static const QStringList &colorDirectives();
+    static const QStringList &geometryDirectives();
+
+    /// The value of the directive: the text up to the next ";", trimmed. Empty when there is no such directive.
+    static QString directiveValue(const QString &directive, const QString &css);
+    /// The text without any directive that has a value, trimmed if one was removed.
+    static QString withoutDirectives(const QString &css);
+
+    /// The border text for the sides, as the "$borders:" directive writes it; "border:none;" for no side.
+    static QString borderText(bool left, bool top, bool right, bool bottom, int width);
+
+    explicit StyleTemplate(const QString &css);
+    /// The same template text read before is not read again while somebody still holds it.
+    static std::shared_ptr<const StyleTemplate> shared(const QString &css);
+
+    /// Writes the style sheet for the selector and reports, once for each place, what the template asks for in vain.
+    QString expand(const QString &selector, const ColorTable &table) const;
+
+    /// The color sets that an expansion looks up.
+    const std::vector<std::string> &setNames() const { return m_setNames; }
+
+    /// What the directives say; colors and texts in `data` that depend on the sets are left alone.
+    struct Directives
+    {
+        QString colorSetNames[3];
+        QString trailingText;
+        bool left = false, top = false, right = false, bottom = false;
+        bool hasBorders = false;
+        bool focusRadius = false;
+        quint8 rectangularCorners = 0;
+        int borderWidth = 0;
+        int borderRadius = 0;
+        QString borderText;
+        QString radiusText;
+    };
+    const Directives &directives() const { return m_directives; }
+
+    /// True when a token stands inside a directive: the directives are known only once its color is.
+    bool needsTwoPasses() const { return m_twoPasses; }
+    /// The template with its tokens replaced, for the templates of needsTwoPasses().
+    StyleTemplate withTokensReplaced(const ColorTable &table) const;
+
+private:
+    enum class Tokens { Expand, Keep };
+    StyleTemplate(const QString &css, Tokens tokens);
+
+    struct Token
+    {
+        int set; ///< index in m_setNames; -1 for a token that names no state and stays as it is
+        int state; ///< -1: not one of the six
+        QString text; ///< the whole token, for messages
+    };
+    struct Op
+    {
+        enum Kind : quint8 { Literal, Selector, Color, StateRules } kind;
+        qint8 state;
+        int a; ///< Literal: offset in m_text; Color: set; StateRules: directive
+        int b; ///< Literal: length
+    };
+    struct Resolved
+    {
+        quint64 generation = 0;
+        std::vector<int> index; ///< for each of m_setNames its index in the table, -1 unknown
+        bool complete = false;
+    };
+
+    QString readTokens(const QString &css);
+    void readDirectives(QString rest, int marks);
+    void readBorders(const QString &value, bool present, const QString &width);
+    void readRadius(const QString &value);
+    void readWrittenBorders();
+    void writeDirectives();
+    void writeRest(const QString &rest, bool wrapDeclarations);
+    int slotOf(const QString &setName);
+    void addLiteral(const QString &text);
+    void addSelector();
+    void addColor(int set, int state);
+    const Resolved &resolve(const ColorTable &table) const;
+    void report(const Resolved &resolved) const;
+
+    QString m_source;
+    QString m_text;
+    std::vector<Op> m_ops;
+    std::vector<std::string> m_setNames;
+    std::unordered_map<std::string, int> m_slots; ///< index in m_setNames; empty once the text is read
+    std::vector<Token> m_tokens;
+    Directives m_directives;
+    int m_directiveSet[3] = {-1, -1, -1};
+    int m_gradientSet[2] = {-1, -1};
+    QStringList m_unterminated;
+    int m_literalLength = 0, m_selectorCount = 0, m_colorCount = 0;
+    bool m_troubled = false; ///< there is something to report whatever the sets are
+    bool m_twoPasses = false;
+    mutable Resolved m_resolved[2]; ///< a widget switches between at most two registries
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <UiElements/theme/ColorTable_p.h>
+
+#include <memory>
+#include <utility>
+
+/// One registry of the application: its color sets and, from their first use on, the table that is written from.
+class ThemeRegistry
+{
+public:
+    const WColorSets &sets() const { return m_sets; }
+    void setSets(WColorSets sets)
+    {
+        m_sets = std::move(sets);
+        m_table.reset();
+    }
+    const ColorTable &table() const
+    {
+        if (!m_table)
+            m_table = std::make_unique<ColorTable>(m_sets);
+        return *m_table;
+    }
+
+private:
+    WColorSets m_sets;
+    mutable std::unique_ptr<ColorTable> m_table;
+};
