@@ -20,7 +20,9 @@ QColor colorFromRgba(const QJsonValue &value)
     const int red = rgba.value(QLatin1String("r")).toInt(-1);
     const int green = rgba.value(QLatin1String("g")).toInt(-1);
     const int blue = rgba.value(QLatin1String("b")).toInt(-1);
-    const auto fits = [](double component) { return component >= 0 && component <= 255; };
+    const auto fits = [](double component) {
+        return component >= 0 && component <= 255;
+    };
     if (!fits(alpha) || !fits(red) || !fits(green) || !fits(blue))
         return QColor();
     return QColor(red, green, blue, int(alpha));
@@ -109,7 +111,10 @@ WPalette ThemeFiles::readPalette(const QJsonObject &root)
         for (const QJsonValue &value : list) {
             const QJsonObject variation = value.toObject();
             QString name = variation.value(QLatin1String("name")).toString();
-            QString alias = variation.value(QLatin1String("alias")).toString();
+            const QJsonValue aliasValue = variation.value(QLatin1String("alias"));
+            QString alias = aliasValue.toString();
+            if (!aliasValue.isString() && !aliasValue.isUndefined() && !aliasValue.isNull())
+                reportUnresolved(textOf(aliasValue));
             if (name.isEmpty())
                 name.swap(alias);
             if (name.isEmpty()) {
@@ -163,7 +168,8 @@ WColorSets ThemeFiles::readColorSets(const QJsonObject &root, const WPalette &pa
                 if (palette.empty()) {
                     color = colorFromRgba(value);
                     if (!color.isValid())
-                        qWarning() << "Invalid color for: " << token.key() + QLatin1Char('.') + WColorSet::stateNames().at(i);
+                        qWarning() << "Invalid color for: "
+                                   << token.key() + QLatin1Char('.') + WColorSet::stateNames().at(i);
                 } else {
                     const auto found = value.isString() ? palette.find(value.toString().toStdString()) : palette.end();
                     if (found != palette.end())

@@ -270,8 +270,9 @@ WColorSet WThemeUtils::transparentColourSet()
 QString WThemeUtils::getHyperlinkCSS(AppThemeType type)
 {
     const WColorSet set = getColorSet("button-hyperlink-text", type);
-    return QStringLiteral("<style type = \"text/css\">a:link{text-decoration: underline; color:%2;} a:visited{color:%2;} "
-                          "a:hover{ color:%3;}</style>")
+    return QStringLiteral(
+               "<style type = \"text/css\">a:link{text-decoration: underline; color:%2;} a:visited{color:%2;} "
+               "a:hover{ color:%3;}</style>")
         .arg(set.normal().name(), set.hovered().name());
 }
 

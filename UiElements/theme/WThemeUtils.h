@@ -40,9 +40,9 @@ class QWidget;
 ///   "rectangularCornerMask" (WCSSData::Corner bits of the corners that stay rectangular).
 /// - Numbers may carry "px". Upper and lower case of sides and corners do not matter; unknown words are ignored.
 /// - A background set named "gradient-background-primary", "gradient-background-secondary" or
-///   "gradient-background-secondary-dialog" is drawn as a gradient between the two sets "theme-gradient-primary-0-background"
-///   and "theme-gradient-primary-1-background" (likewise "secondary" and "dialog-secondary"), in their normal colors; the
-///   other states are the colors of the background set itself.
+///   "gradient-background-secondary-dialog" is drawn as a gradient between the two sets
+///   "theme-gradient-primary-0-background" and "theme-gradient-primary-1-background" (likewise "secondary" and
+///   "dialog-secondary"), in their normal colors; the other states are the colors of the background set itself.
 /// - A directive needs its ";". One without is reported and left out.
 ///
 /// The result is the rules of the directives followed by the rest of the template, in which declarations outside any
