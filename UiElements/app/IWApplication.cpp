@@ -1,0 +1,82 @@
+#include <UiElements/app/IWApplication.h>
+
+#include "IWApplication_p.h"
+
+IWApplication::IWApplication(int &argc, char **argv)
+    : QApplication(argc, argv)
+    , d(std::make_unique<IWApplicationPrivate>())
+{
+    qRegisterMetaType<WColorSet>("WColorSet");
+}
+
+IWApplication::~IWApplication() = default;
+
+const WColorSets &IWApplication::getColorSets() const
+{
+    return d->colorSets.sets();
+}
+
+const WColorSets &IWApplication::getInvertedColorSets() const
+{
+    return d->invertedColorSets.sets();
+}
+
+const WColorTokens &IWApplication::getColorTokens() const
+{
+    return d->colorTokens;
+}
+
+bool IWApplication::getIsDarkTheme() const
+{
+    return d->isDarkTheme;
+}
+
+bool IWApplication::getIsHighContrastTheme() const
+{
+    return d->isHighContrastTheme;
+}
+
+bool IWApplication::animationsDisabled() const
+{
+    return d->animationsDisabled;
+}
+
+WQmlEngine *IWApplication::getQmlEngine() const
+{
+    return nullptr;
+}
+
+void IWApplication::setColorSets(const WColorSets &sets)
+{
+    d->colorSets.setSets(sets);
+    Q_EMIT colorSetsChanged();
+}
+
+void IWApplication::setInvertedColorSets(const WColorSets &sets)
+{
+    d->invertedColorSets.setSets(sets);
+    Q_EMIT colorSetsChanged();
+}
+
+void IWApplication::setColorTokens(const WColorTokens &tokens)
+{
+    d->colorTokens = tokens;
+}
+
+void IWApplication::setAnimationsDisabled(bool disabled)
+{
+    if (d->animationsDisabled == disabled)
+        return;
+    d->animationsDisabled = disabled;
+    Q_EMIT animationsDisabledChanged(disabled);
+}
+
+bool IWApplication::changeIsDarkTheme(bool isDarkTheme)
+{
+    return std::exchange(d->isDarkTheme, isDarkTheme) != isDarkTheme;
+}
+
+bool IWApplication::changeIsHighContrastTheme(bool isHighContrastTheme)
+{
+    return std::exchange(d->isHighContrastTheme, isHighContrastTheme) != isHighContrastTheme;
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <UiElements/app/IWApplication.h>
+#include <UiElements/app/WAppSignals.h>
+#include <UiElements/app/WPublishingInfo.h>
+#include <UiElements/uielements_export.h>
+
+#include <QKeySequence>
+#include <QPointer>
+
+class IWMovieProviderSource;
+class WFontManager;
+class WGlobalSignalListener;
+
+/// The application object of a host, constructed in place of a QApplication and before any element.
+///
+/// It holds the theme, the font scale and the buses. The host reads its color and theme files with WThemeUtils and
+/// hands over the sets with setColorSets() and setInvertedColorSets(). Each setter emits its signal only when the
+/// value changes, except where it says otherwise.
+class UIELEMENTS_EXPORT WApplication : public IWApplication
+{
+    Q_OBJECT
+    Q_PROPERTY(QString theme READ getThemeName WRITE setTheme NOTIFY themeChanged)
+    Q_PROPERTY(QString logoSvgPath READ getLogoSvgPath WRITE setLogoSvgPath NOTIFY logoSvgPathChanged)
+    Q_PROPERTY(QString logoPngPath READ getLogoPngPath WRITE setLogoPngPath NOTIFY logoPngPathChanged)
+    Q_PROPERTY(float fontScaleFactor READ getFontScaleFactor WRITE setFontScaleFactor NOTIFY fontScaleFactorChanged)
+
+public:
+    /// Creates the signal bus, the font manager and the listener as children, in this order, gives the font families
+    /// that a desktop may lack their stand-ins and installs the application font. The arguments must outlive the
+    /// object.
+    WApplication(int &argc, char **argv);
+    ~WApplication() override;
+
+    /// The running application object, or null with the warning "Unable to find WApplication".
+    static WApplication *find();
+
+    /// The name of the theme, for the host to choose files by. Setting it loads nothing.
+    QString getThemeName() const { return m_themeName; }
+    void setTheme(const QString &themeName);
+
+    QString getLogoSvgPath() const { return m_logoSvgPath; }
+    void setLogoSvgPath(const QString &path);
+    QString getLogoPngPath() const { return m_logoPngPath; }
+    void setLogoPngPath(const QString &path);
+
+    /// From 0.5 to 1.5; every font token is scaled by it.
+    float getFontScaleFactor() const { return m_fontScaleFactor; }
+    /// Emits fontScaleFactorChanged() on every valid call, also for the same value. A factor out of range, or one that
+    /// is no number, is reported and changes nothing.
+    void setFontScaleFactor(float factor);
+
+    /// Tell these together with the color sets they belong to: the registry set by setColorSets() is that of the theme
+    /// shown. After its signal each flag announces colorSetsChanged(), because the choice of registry depends on it.
+    void setIsDarkTheme(bool isDarkTheme);
+    void setIsHighContrastTheme(bool isHighContrastTheme);
+
+    WPublishingInfo getPublishingInfo() const { return m_publishingInfo; }
+    void setPublishingInfo(const WPublishingInfo &info);
+
+    /// Where animated images get their movies; null until the host sets one, which stays the host's.
+    IWMovieProviderSource *getMovieProviderSource() const { return m_movieProviderSource; }
+    void setMovieProviderSource(IWMovieProviderSource *source) { m_movieProviderSource = source; }
+
+    /// Null once the application object is being destroyed.
+    WAppSignals *getAppSignals() const { return m_appSignals; }
+    WFontManager *getWFontManager() const;
+    WGlobalSignalListener *getGlobalSignalListener() const;
+
+    /// True while a window of the program has the keyboard focus.
+    bool isInFocus() const;
+
+    /// The color set for "light", "dark", "inverted" or "global" (any other text).
+    Q_INVOKABLE WColorSet getColorSet(QString colorSetName, QString themeType) const;
+    /// The key of a registered shortcut; see WAppSignals::getKeySequence().
+    Q_INVOKABLE QKeySequence getKeySequence(WAppSignals::Shortcut shortcutId) const;
+
+Q_SIGNALS:
+    void themeChanged(QString themeName);
+    void isDarkThemeChanged(bool isDarkTheme);
+    void isHighContrastThemeChanged(bool isHighContrastTheme);
+    void fontScaleFactorChanged(float scale);
+    void logoSvgPathChanged(QString logoSvgPath);
+    void logoPngPathChanged(QString logoPngPath);
+    void publishingInfoChanged();
+
+private:
+    QString m_themeName;
+    QString m_logoSvgPath;
+    QString m_logoPngPath;
+    WPublishingInfo m_publishingInfo;
+    QPointer<WAppSignals> m_appSignals;
+    QPointer<QObject> m_fontManager;
+    QPointer<QObject> m_globalSignalListener;
+    IWMovieProviderSource *m_movieProviderSource = nullptr;
+    float m_fontScaleFactor = 1.0f;
+};

@@ -1,0 +1,419 @@
+#include <UiElements/widgets/ThemeSupport.h>
+
+#include "RestylePass_p.h"
+#include "ThemedAccessible_p.h"
+
+#include <UiElements/app/WApplication.h>
+#include <UiElements/app/WFontManager.h>
+#include <UiElements/app/WScaledFonts.h>
+#include <UiElements/theme/StyleTemplate_p.h>
+#include <UiElements/theme/WThemeUtils_p.h>
+
+#include <QDebug>
+#include <QEvent>
+#include <QFrame>
+#include <QHash>
+#include <QLayout>
+#include <QPointer>
+#include <QStyle>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+namespace {
+
+QHash<const QWidget *, ThemeSupport *> &supports()
+{
+    static QHash<const QWidget *, ThemeSupport *> all;
+    return all;
+}
+
+// While this is not zero, whoever reads the property "styleSheet" is Qt's style engine.
+int engineReads = 0;
+// How often the engine has been given the expanded text.
+quint64 expandedTextsRead = 0;
+
+class EngineReads
+{
+public:
+    EngineReads() { ++engineReads; }
+    ~EngineReads() { --engineReads; }
+    EngineReads(const EngineReads &) = delete;
+    EngineReads &operator=(const EngineReads &) = delete;
+};
+
+// Qt's style sheet style refuses, and hands over to its base style, every call made while another instance of it is at
+// work. So a widget with a border that no base style draws tells whether one is.
+class EngineProbe
+{
+public:
+    static bool engineIsAtWork()
+    {
+        static EngineProbe probe;
+        if (!probe.m_frame) {
+            probe.m_frame = new QFrame;
+            probe.m_frame->setObjectName(QStringLiteral("uielements_engine_probe"));
+            probe.m_frame->setStyleSheet(QStringLiteral("QFrame { border: 77px solid black; }"));
+            qAddPostRoutine([] { delete probe.m_frame; });
+        }
+        return probe.m_frame->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, probe.m_frame) != 77;
+    }
+
+private:
+    QPointer<QFrame> m_frame;
+};
+
+QMargins mirroredFor(const QWidget *widget, const QMargins &margins)
+{
+    return widget->layoutDirection() == Qt::RightToLeft
+        ? QMargins(margins.right(), margins.top(), margins.left(), margins.bottom())
+        : margins;
+}
+
+// The themed widgets that are next below, seen through plain ones; those have no signal of the parent to follow.
+void collectBelowPlain(const QWidget *widget, bool throughPlain, std::vector<QPointer<QWidget>> *found)
+{
+    for (QObject *object : widget->children()) {
+        auto *child = object->isWidgetType() ? static_cast<QWidget *>(object) : nullptr;
+        if (!child || child->isWindow())
+            continue;
+        if (!ThemeSupport::of(child))
+            collectBelowPlain(child, true, found);
+        else if (throughPlain)
+            found->emplace_back(child);
+    }
+}
+
+} // namespace
+
+class ThemeSupport::Private
+{
+public:
+    Private(QWidget *w, const Hooks *h)
+        : widget(w)
+        , hooks(h)
+    {
+    }
+
+    void followParent();
+    void announceThemeType();
+    void take(const StyleTemplate::Directives &directives);
+
+    QWidget *const widget;
+    const Hooks *const hooks;
+    bool attached = false;
+
+    QString css;
+    std::shared_ptr<const StyleTemplate> source; // of css, once it was expanded
+    QString colorSetNames[3];
+    QString trailingText;
+    int borderWidth = 0;
+    int borderRadius = 0;
+    bool hasFocusProperties = false;
+    QString themeType = QStringLiteral("global");
+    WThemeUtils::AppThemeType shownType = WThemeUtils::AppThemeTypeGlobal;
+
+    WFont::Token fontToken = WFont::Default;
+    FontManagerEnum::FontType fontType = FontManagerEnum::Default;
+    QAccessible::Role role = QAccessible::NoRole;
+    QString elementUniqueId;
+    std::unique_ptr<QMargins> margins;
+    std::unique_ptr<QMargins> layoutMargins;
+
+    QMetaObject::Connection nameConnection;
+    QMetaObject::Connection parentConnection;
+    QMetaObject::Connection fontConnection;
+    QPointer<WScaledFonts> scaledFonts;
+};
+
+ThemeSupport::ThemeSupport(QWidget *widget, const Hooks *hooks)
+    : d(std::make_unique<Private>(widget, hooks))
+{
+    supports().insert(widget, this);
+}
+
+ThemeSupport::~ThemeSupport()
+{
+    supports().remove(d->widget);
+    QObject::disconnect(d->nameConnection);
+    QObject::disconnect(d->fontConnection);
+}
+
+ThemeSupport *ThemeSupport::of(const QWidget *widget)
+{
+    return supports().value(widget);
+}
+
+void ThemeSupport::attach()
+{
+    d->attached = true;
+    RestylePass::ensure();
+    ThemedAccessible::install();
+    d->nameConnection =
+        QObject::connect(d->widget, &QObject::objectNameChanged, d->widget, [this] { setCss(QString(d->css)); });
+    // By name: the slots are those of the widget's own class, which this code does not know.
+    QObject::connect(qApp, SIGNAL(layoutDirectionChanged(Qt::LayoutDirection)), d->widget,
+                     SLOT(onLayoutDirectionChanged()));
+    QObject::connect(d->widget, SIGNAL(themeTypeChanged()), d->widget, SLOT(onThemeChanged()));
+    d->followParent();
+    applyFont();
+}
+
+void ThemeSupport::Private::followParent()
+{
+    QObject::disconnect(parentConnection);
+    parentConnection = {};
+    const QWidget *parent = widget->parentWidget();
+    if (parent && parent->metaObject()->indexOfSignal("themeTypeChanged()") >= 0) {
+        parentConnection =
+            QObject::connect(parent, SIGNAL(themeTypeChanged()), widget, SLOT(onParentThemeTypeChanged()));
+    }
+}
+
+void ThemeSupport::Private::take(const StyleTemplate::Directives &directives)
+{
+    std::copy(std::begin(directives.colorSetNames), std::end(directives.colorSetNames), colorSetNames);
+    trailingText = directives.trailingText;
+    borderWidth = directives.borderWidth;
+    borderRadius = directives.borderRadius;
+    if (directives.focusRadius) {
+        WThemeUtilsPrivate::setFocusProperties(widget, directives.borderRadius, directives.rectangularCorners);
+    } else if (hasFocusProperties) {
+        widget->setProperty("focusBorderRadius", QVariant());
+        widget->setProperty("rectangularCornerMask", QVariant());
+    }
+    hasFocusProperties = directives.focusRadius;
+}
+
+void ThemeSupport::follow(QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ParentChange:
+        if (!d->attached)
+            break;
+        d->followParent();
+        if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
+            d->hooks->onParentThemeTypeChanged(d->widget);
+        break;
+    case QEvent::Show:
+        // A plain ancestor may have moved to another window, of which nothing below it is told.
+        if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
+            d->hooks->onThemeChanged(d->widget);
+        break;
+    case QEvent::LayoutDirectionChange: applyMargins(); break;
+    default: break;
+    }
+}
+
+QString ThemeSupport::css() const
+{
+    return d->css;
+}
+
+void ThemeSupport::setCss(const QString &css)
+{
+    if (d->css != css || !d->source) {
+        d->css = css;
+        d->source = StyleTemplate::shared(css);
+    }
+    refresh();
+}
+
+void ThemeSupport::refresh()
+{
+    if (!d->source)
+        return;
+    d->shownType = WThemeUtils::getThemeTypeOfWidget(d->widget);
+    const ColorTable &table = WThemeUtilsPrivate::colorTable(d->shownType);
+    const auto source = d->source; // a slot may set another template meanwhile
+    std::optional<StyleTemplate> replaced;
+    if (source->needsTwoPasses())
+        replaced.emplace(source->withTokensReplaced(table));
+    const StyleTemplate &final = replaced ? *replaced : *source;
+    const QString text = final.expand(WThemeUtilsPrivate::selectorOf(d->widget), table);
+    d->take(final.directives());
+    if (text.isEmpty())
+        return;
+    d->widget->setAttribute(Qt::WA_StyledBackground);
+    if (d->widget->styleSheet() != text) {
+        const EngineReads reading;
+        d->widget->setStyleSheet(text);
+    }
+    d->hooks->cssChanged(d->widget);
+}
+
+// Qt's style engine takes the sheet of a widget, and of each of its ancestors, from the property "styleSheet" and not
+// from QWidget::styleSheet(). Handed a template it would find no sheet in it and the widget would lose its look;
+// people, forms and tools ask the same property for the template. Nothing tells who asks. But the engine reads the text
+// anew only as long as it has not parsed the widget's sheet, and otherwise just looks whether there is one. So it is
+// made to parse the expanded text first; after that the template does no harm, whoever it was that asked.
+QString ThemeSupport::styleSheetProperty() const
+{
+    if (engineReads > 0) {
+        ++expandedTextsRead;
+        return d->widget->styleSheet();
+    }
+    if (d->widget->styleSheet().isEmpty() || d->css.isEmpty())
+        return d->css;
+    const quint64 before = expandedTextsRead;
+    {
+        const EngineReads reading;
+        d->widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, d->widget);
+    }
+    // Nothing was read: the sheet is parsed already, or the engine, busy elsewhere, would not look at this widget.
+    const bool parsed = expandedTextsRead != before || !EngineProbe::engineIsAtWork();
+    return parsed ? d->css : d->widget->styleSheet();
+}
+
+QString ThemeSupport::colorSetName(WThemeUtils::ColorSetType type) const
+{
+    return type >= 0 && type < 3 ? d->colorSetNames[type] : QString();
+}
+
+QString ThemeSupport::trailingText() const
+{
+    return d->trailingText;
+}
+
+int ThemeSupport::borderWidth() const
+{
+    return d->borderWidth;
+}
+
+int ThemeSupport::borderRadius() const
+{
+    return d->borderRadius;
+}
+
+void ThemeSupport::answerThemeChange()
+{
+    d->hooks->onThemeChanged(d->widget);
+}
+
+QString ThemeSupport::themeType() const
+{
+    return d->themeType;
+}
+
+void ThemeSupport::setThemeType(const QString &themeType)
+{
+    const QString known = WThemeUtils::themeTypeToString(WThemeUtils::stringToThemeType(themeType));
+    if (known != themeType && !themeType.isEmpty())
+        qWarning() << "Unknown theme type, taken as global:" << themeType;
+    if (d->themeType == known)
+        return;
+    d->themeType = known;
+    d->announceThemeType();
+}
+
+void ThemeSupport::onParentThemeTypeChanged()
+{
+    d->announceThemeType();
+}
+
+void ThemeSupport::Private::announceThemeType()
+{
+    std::vector<QPointer<QWidget>> below;
+    collectBelowPlain(widget, false, &below);
+    const QPointer<QWidget> self(widget);
+    hooks->themeTypeChanged(widget);
+    for (const QPointer<QWidget> &child : below) {
+        ThemeSupport *support = self && child ? ThemeSupport::of(child) : nullptr;
+        if (support)
+            support->d->hooks->onParentThemeTypeChanged(child);
+    }
+}
+
+QAccessible::Role ThemeSupport::accessibleRole() const
+{
+    return d->role;
+}
+
+void ThemeSupport::setAccessibleRole(QAccessible::Role role)
+{
+    d->role = role;
+}
+
+QString ThemeSupport::elementUniqueId() const
+{
+    return d->elementUniqueId;
+}
+
+void ThemeSupport::setElementUniqueId(const QString &id)
+{
+    d->elementUniqueId = id;
+}
+
+WFont::Token ThemeSupport::fontToken() const
+{
+    return d->fontToken;
+}
+
+void ThemeSupport::setFontToken(WFont::Token token)
+{
+    if (token < WFont::Default || token > WFont::Display) {
+        qWarning("Invalid font token! This should never happen!");
+        return;
+    }
+    d->fontToken = token;
+    applyFont();
+}
+
+FontManagerEnum::FontType ThemeSupport::fontType() const
+{
+    return d->fontType;
+}
+
+void ThemeSupport::setFontType(FontManagerEnum::FontType type)
+{
+    if (type < FontManagerEnum::Default || type > FontManagerEnum::MeetingView) {
+        qWarning() << "Invalid font type:" << int(type);
+        return;
+    }
+    d->fontType = type;
+    applyFont();
+}
+
+void ThemeSupport::applyFont()
+{
+    // A program with a plain QApplication has no scaled sets; its elements keep the unscaled font of their token.
+    const auto *app = qobject_cast<WApplication *>(QCoreApplication::instance());
+    WFontManager *manager = app ? app->getWFontManager() : nullptr;
+    WScaledFonts *fonts = manager ? manager->getFont(d->fontType) : nullptr;
+    if (d->scaledFonts != fonts) {
+        QObject::disconnect(d->fontConnection);
+        d->scaledFonts = fonts;
+        if (fonts)
+            d->fontConnection =
+                QObject::connect(fonts, &WScaledFonts::fontTokenChanged, d->widget, [this] { applyFont(); });
+    }
+    d->widget->setFont(fonts ? fonts->getFont(d->fontToken) : QFont(WFont(d->fontToken, false)));
+}
+
+void ThemeSupport::setContentsMargins(const QMargins &margins)
+{
+    if (!d->margins)
+        d->margins = std::make_unique<QMargins>();
+    *d->margins = margins;
+    d->widget->setContentsMargins(mirroredFor(d->widget, margins));
+}
+
+void ThemeSupport::setLayoutContentsMargins(const QMargins &margins)
+{
+    QLayout *layout = d->widget->layout();
+    if (!layout)
+        return;
+    if (!d->layoutMargins)
+        d->layoutMargins = std::make_unique<QMargins>();
+    *d->layoutMargins = margins;
+    layout->setContentsMargins(mirroredFor(d->widget, margins));
+}
+
+void ThemeSupport::applyMargins()
+{
+    if (d->margins)
+        setContentsMargins(QMargins(*d->margins));
+    if (d->layoutMargins)
+        setLayoutContentsMargins(QMargins(*d->layoutMargins));
+}

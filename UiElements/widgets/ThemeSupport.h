@@ -1,0 +1,83 @@
+#pragma once
+
+#include <UiElements/app/FontManagerEnum.h>
+#include <UiElements/app/WFont.h>
+#include <UiElements/theme/WThemeUtils.h>
+#include <UiElements/uielements_export.h>
+
+#include <QAccessible>
+#include <QMargins>
+#include <QString>
+
+#include <memory>
+
+class QEvent;
+class QWidget;
+
+/// The behaviour shared by all themed widgets. Each widget holds one as a private member of Themed, which forwards.
+class UIELEMENTS_EXPORT ThemeSupport
+{
+public:
+    /// How the widget's own signals and slots are reached from here.
+    struct Hooks
+    {
+        void (*cssChanged)(QWidget *);
+        void (*themeTypeChanged)(QWidget *);
+        void (*onThemeChanged)(QWidget *);
+        void (*onParentThemeTypeChanged)(QWidget *);
+    };
+
+    /// For QAccessibleInterface::text(): the element's unique id.
+    static constexpr auto ElementUniqueIdText = QAccessible::Text(QAccessible::UserText);
+
+    ThemeSupport(QWidget *widget, const Hooks *hooks);
+    ~ThemeSupport();
+    ThemeSupport(const ThemeSupport &) = delete;
+    ThemeSupport &operator=(const ThemeSupport &) = delete;
+
+    /// The support of a themed widget, null for any other widget.
+    static ThemeSupport *of(const QWidget *widget);
+
+    /// To be called in the constructor of the class that declares the signals and slots.
+    void attach();
+    /// To be called with every event of the widget, before the widget handles it.
+    void follow(QEvent *event);
+
+    QString css() const;
+    void setCss(const QString &css);
+    void refresh();
+    /// What the property "styleSheet" answers: the template, but the expanded text to Qt's style engine.
+    QString styleSheetProperty() const;
+
+    /// What the last expansion found in the template; see WCSSData.
+    QString colorSetName(WThemeUtils::ColorSetType type) const;
+    QString trailingText() const;
+    int borderWidth() const;
+    int borderRadius() const;
+
+    /// Has the widget's class answer a change of the theme; the widget may be gone afterwards.
+    void answerThemeChange();
+
+    QString themeType() const;
+    void setThemeType(const QString &themeType);
+    void onParentThemeTypeChanged();
+
+    QAccessible::Role accessibleRole() const;
+    void setAccessibleRole(QAccessible::Role role);
+    QString elementUniqueId() const;
+    void setElementUniqueId(const QString &id);
+
+    WFont::Token fontToken() const;
+    void setFontToken(WFont::Token token);
+    FontManagerEnum::FontType fontType() const;
+    void setFontType(FontManagerEnum::FontType type);
+    void applyFont();
+
+    void setContentsMargins(const QMargins &margins);
+    void setLayoutContentsMargins(const QMargins &margins);
+    void applyMargins();
+
+private:
+    class Private;
+    const std::unique_ptr<Private> d;
+};

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QAccessible>
+
+/// Adds the role and the id of a themed widget to the accessible interface that Qt made for it.
+///
+/// Qt's own interfaces know the text of an edit, the rows of a table and the value of a slider; none of their classes
+/// is public. So this one stands in front, asks Qt's for everything and answers only the role and the id itself.
+class ThemedAccessible : public QAccessibleInterface
+{
+public:
+    /// From the first call on, themed widgets get this interface.
+    static void install();
+
+    ~ThemedAccessible() override;
+
+    bool isValid() const override;
+    QObject *object() const override;
+    QWindow *window() const override;
+    QVector<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(QAccessible::Relation match) const override;
+    QAccessibleInterface *focusChild() const override;
+    QAccessibleInterface *childAt(int x, int y) const override;
+    QAccessibleInterface *parent() const override;
+    QAccessibleInterface *child(int index) const override;
+    int childCount() const override;
+    int indexOfChild(const QAccessibleInterface *child) const override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text kind, const QString &text) override;
+    QRect rect() const override;
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    QColor foregroundColor() const override;
+    QColor backgroundColor() const override;
+    void virtual_hook(int id, void *data) override;
+    void *interface_cast(QAccessible::InterfaceType type) override;
+
+private:
+    explicit ThemedAccessible(QAccessibleInterface *inner);
+    static QAccessibleInterface *create(const QString &className, QObject *object);
+
+    QAccessibleInterface *const m_inner; // Qt's registry owns it
+    const QAccessible::Id m_innerId;
+};

@@ -1,0 +1,13 @@
+#include <UiElements/widgets/WDateTimeEdit.h>
+
+WDateTimeEdit::WDateTimeEdit(QWidget *parent)
+    : Themed(parent)
+{
+    initTheme();
+}
+
+WDateTimeEdit::WDateTimeEdit(const QDateTime &dateTime, QWidget *parent)
+    : Themed(dateTime, parent)
+{
+    initTheme();
+}

@@ -1,0 +1,7 @@
+#include <UiElements/widgets/WListView.h>
+
+WListView::WListView(QWidget *parent)
+    : Themed(parent)
+{
+    initTheme();
+}

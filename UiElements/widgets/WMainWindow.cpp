@@ -1,0 +1,7 @@
+#include <UiElements/widgets/WMainWindow.h>
+
+WMainWindow::WMainWindow(QWidget *parent, Qt::WindowFlags flags)
+    : Themed(parent, flags)
+{
+    initTheme();
+}

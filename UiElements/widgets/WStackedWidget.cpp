@@ -1,0 +1,7 @@
+#include <UiElements/widgets/WStackedWidget.h>
+
+WStackedWidget::WStackedWidget(QWidget *parent)
+    : Themed(parent)
+{
+    initTheme();
+}

@@ -1,0 +1,7 @@
+#include <UiElements/widgets/WTextBrowser.h>
+
+WTextBrowser::WTextBrowser(QWidget *parent)
+    : Themed(parent)
+{
+    initTheme();
+}

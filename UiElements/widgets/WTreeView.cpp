@@ -1,0 +1,7 @@
+#include <UiElements/widgets/WTreeView.h>
+
+WTreeView::WTreeView(QWidget *parent)
+    : Themed(parent)
+{
+    initTheme();
+}
