@@ -35,11 +35,10 @@ bool FontUtils::isMonospaceFont(const WFont &font)
         || font.families().value(0).compare(monospace, Qt::CaseInsensitive) == 0)
         return true;
 
-    // A stand-in need not declare its pitch, so its letters are asked. Large and without hinting, since at small sizes
-    // all letters of any font may be rounded to the same width.
+    // A stand-in need not declare its pitch, so its letters are asked. Always at one size: in a tiny
+    // font narrow and wide letters are less than half a pixel apart.
     QFont measured(font);
     measured.setPixelSize(64);
-    measured.setHintingPreference(QFont::PreferNoHinting);
     measured.setCapitalization(QFont::MixedCase);
     const QFontMetricsF metrics(measured);
     const QString letters = QStringLiteral("iW.m0");

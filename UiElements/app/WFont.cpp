@@ -7,6 +7,7 @@
 #include <QDebug>
 
 #include <cmath>
+#include <cstddef>
 #include <iterator>
 
 namespace {

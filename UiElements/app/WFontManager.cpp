@@ -6,6 +6,8 @@
 
 #include <QDebug>
 
+#include <cstddef>
+
 WFontManager::WFontManager(QObject *parent)
     : QObject(parent)
 {

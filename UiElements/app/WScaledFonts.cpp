@@ -4,6 +4,7 @@
 
 #include <QDebug>
 
+#include <cstddef>
 #include <iterator>
 
 namespace {

@@ -41,6 +41,14 @@ void reportUnresolved(const QString &color)
     qWarning() << "Unable to parse colors.json! The color: " << color;
 }
 
+// A missing name is nobody's fault, one that is no text is reported.
+QString nameFrom(const QJsonValue &value)
+{
+    if (!value.isString() && !value.isUndefined() && !value.isNull())
+        reportUnresolved(textOf(value));
+    return value.toString();
+}
+
 // A variation may name another color instead of giving one. Chains are followed to their end; one that ends in no
 // color, or in itself, is reported for each name in it.
 void resolveReferences(const std::unordered_map<std::string, std::string> &references,
@@ -110,11 +118,8 @@ WPalette ThemeFiles::readPalette(const QJsonObject &root)
         const QJsonArray list = variations.toArray();
         for (const QJsonValue &value : list) {
             const QJsonObject variation = value.toObject();
-            QString name = variation.value(QLatin1String("name")).toString();
-            const QJsonValue aliasValue = variation.value(QLatin1String("alias"));
-            QString alias = aliasValue.toString();
-            if (!aliasValue.isString() && !aliasValue.isUndefined() && !aliasValue.isNull())
-                reportUnresolved(textOf(aliasValue));
+            QString name = nameFrom(variation.value(QLatin1String("name")));
+            QString alias = nameFrom(variation.value(QLatin1String("alias")));
             if (name.isEmpty())
                 name.swap(alias);
             if (name.isEmpty()) {

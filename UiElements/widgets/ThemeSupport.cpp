@@ -201,7 +201,6 @@ void ThemeSupport::follow(QEvent *event)
         if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
             d->hooks->onThemeChanged(d->widget);
         break;
-    case QEvent::LayoutDirectionChange: applyMargins(); break;
     default: break;
     }
 }
@@ -239,8 +238,17 @@ void ThemeSupport::refresh()
     if (d->widget->styleSheet() != text) {
         const EngineReads reading;
         d->widget->setStyleSheet(text);
+        applyMargins(); // a tree takes those of its frame after its last style event
     }
     d->hooks->cssChanged(d->widget);
+}
+
+void ThemeSupport::applyTheme()
+{
+    const QPointer<QWidget> alive(d->widget);
+    refresh();
+    if (alive)
+        applyFont();
 }
 
 // Qt's style engine takes the sheet of a widget, and of each of its ancestors, from the property "styleSheet" and not
@@ -333,6 +341,7 @@ QAccessible::Role ThemeSupport::accessibleRole() const
 void ThemeSupport::setAccessibleRole(QAccessible::Role role)
 {
     d->role = role;
+    ThemedAccessible::replaceEarlyInterface(d->widget);
 }
 
 QString ThemeSupport::elementUniqueId() const
@@ -343,6 +352,7 @@ QString ThemeSupport::elementUniqueId() const
 void ThemeSupport::setElementUniqueId(const QString &id)
 {
     d->elementUniqueId = id;
+    ThemedAccessible::replaceEarlyInterface(d->widget);
 }
 
 WFont::Token ThemeSupport::fontToken() const

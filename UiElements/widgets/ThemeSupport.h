@@ -46,6 +46,8 @@ public:
     QString css() const;
     void setCss(const QString &css);
     void refresh();
+    /// Template and font. Slots connected to the widget may destroy it meanwhile.
+    void applyTheme();
     /// What the property "styleSheet" answers: the template, but the expanded text to Qt's style engine.
     QString styleSheetProperty() const;
 

@@ -67,11 +67,7 @@ public:
 
     // Slots: moc sees them declared in each class, by the macros below.
     virtual void refreshCSS() { m_theme.refresh(); }
-    virtual void onThemeChanged()
-    {
-        m_theme.refresh();
-        m_theme.applyFont();
-    }
+    virtual void onThemeChanged() { m_theme.applyTheme(); }
     virtual void onParentThemeTypeChanged() { m_theme.onParentThemeTypeChanged(); }
     virtual void onLayoutDirectionChanged() { m_theme.applyMargins(); }
 
@@ -85,7 +81,12 @@ protected:
     bool event(QEvent *event) override
     {
         m_theme.follow(event);
-        return Base::event(event);
+        const QEvent::Type type = event->type();
+        const bool handled = Base::event(event);
+        // A frame lays its margins anew for each of these.
+        if (type == QEvent::LayoutDirectionChange || type == QEvent::StyleChange)
+            m_theme.applyMargins();
+        return handled;
     }
 
 private:

@@ -28,6 +28,13 @@ void ThemedAccessible::install()
     Q_UNUSED(installed)
 }
 
+void ThemedAccessible::replaceEarlyInterface(QObject *widget)
+{
+    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+    if (interface && !dynamic_cast<ThemedAccessible *>(interface))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+}
+
 QAccessibleInterface *ThemedAccessible::create(const QString &, QObject *object)
 {
     if (askingQt || !supportOf(object))
