@@ -9,12 +9,11 @@
 #include <QtTest>
 
 // Set 0 is "a", set 1 is "b" ...: the color of state 3 of set 1 is "#ff010300".
-static const WColorSets sets
-    = spelledSets({"a", "b", "c", "theme-gradient-primary-0-background", "theme-gradient-primary-1-background",
-                   "theme-gradient-secondary-0-background", "theme-gradient-secondary-1-background",
-                   "theme-gradient-dialog-secondary-0-background", "theme-gradient-dialog-secondary-1-background",
-                   "gradient-background-primary", "gradient-background-secondary",
-                   "gradient-background-secondary-dialog"});
+static const WColorSets sets = spelledSets(
+    {"a", "b", "c", "theme-gradient-primary-0-background", "theme-gradient-primary-1-background",
+     "theme-gradient-secondary-0-background", "theme-gradient-secondary-1-background",
+     "theme-gradient-dialog-secondary-0-background", "theme-gradient-dialog-secondary-1-background",
+     "gradient-background-primary", "gradient-background-secondary", "gradient-background-secondary-dialog"});
 
 class tst_Templates : public QObject
 {
@@ -44,8 +43,8 @@ static QString expand(const QString &css)
 static QString rules(const char *property, int number)
 {
     QString out;
-    const QPair<const char *, int> order[]
-        = {{"", 0}, {":checked", 5}, {":focus", 4}, {":hover", 1}, {":pressed", 2}, {":disabled", 3}};
+    const QPair<const char *, int> order[] = {{"", 0},       {":checked", 5}, {":focus", 4},
+                                              {":hover", 1}, {":pressed", 2}, {":disabled", 3}};
     for (const auto &[pseudo, state] : order) {
         out += QStringLiteral("S%1{%2:#ff%3%4%5;} ")
                    .arg(QLatin1String(pseudo), QLatin1String(property))
@@ -145,7 +144,9 @@ void tst_Templates::expansion_data()
         return QStringLiteral("S{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, stop:0 %1, stop:1 %2); } ")
             .arg(QLatin1String(zero), QLatin1String(one));
     };
-    const auto others = [](int number) { return rules("background-color", number).section(QLatin1String("} "), 1); };
+    const auto others = [](int number) {
+        return rules("background-color", number).section(QLatin1String("} "), 1);
+    };
     row("primary gradient", "$backgroundColors: gradient-background-primary;",
         gradient("#ff030000", "#ff040000") + others(9));
     row("secondary gradient", "$backgroundColors: gradient-background-secondary;",
@@ -173,8 +174,8 @@ void tst_Templates::focusOnlyShowsWhereItDiffers()
 {
     WColorSets own {{"s", plainSet("s", Qt::red)}};
     const auto order = [&own] {
-        const QString sheet
-            = WThemeUtils::parseCSS(QStringLiteral("S"), QStringLiteral("$textColors:s;"), own).styleSheet;
+        const QString sheet =
+            WThemeUtils::parseCSS(QStringLiteral("S"), QStringLiteral("$textColors:s;"), own).styleSheet;
         return sheet.indexOf(QLatin1String(":checked")) < sheet.indexOf(QLatin1String(":focus"));
     };
     QVERIFY(!order());
@@ -184,10 +185,18 @@ void tst_Templates::focusOnlyShowsWhereItDiffers()
 
 void tst_Templates::tokensAgreeWithPlainReplacement()
 {
-    static const QStringList pieces {QStringLiteral("$("), QStringLiteral(")"),  QStringLiteral("a"), QStringLiteral("z"),
-                                     QStringLiteral("."),  QStringLiteral("normal"), QStringLiteral("checked"),
-                                     QStringLiteral("\n"), QStringLiteral("$"),  QStringLiteral("{;}"),
-                                     QStringLiteral("$(b.pressed)"), QString(QChar(0xFDD0))};
+    static const QStringList pieces {QStringLiteral("$("),
+                                     QStringLiteral(")"),
+                                     QStringLiteral("a"),
+                                     QStringLiteral("z"),
+                                     QStringLiteral("."),
+                                     QStringLiteral("normal"),
+                                     QStringLiteral("checked"),
+                                     QStringLiteral("\n"),
+                                     QStringLiteral("$"),
+                                     QStringLiteral("{;}"),
+                                     QStringLiteral("$(b.pressed)"),
+                                     QString(QChar(0xFDD0))};
     const QRegularExpression tokens(QStringLiteral("\\$\\(.*?\\)"));
     QRandomGenerator random(20);
     int replaced = 0;
@@ -237,12 +246,14 @@ void tst_Templates::data_data()
     // names | trailing | sides | borders given, suppressed | width, radius | focus, corner mask
     row("nothing", "QLabel { color: $(a.normal); }", ",, | QLabel { color: $(a.normal); } |  | 0 0 | 0 0 | 0 0");
     row("all of it",
-        "$borderColors: b; $backgroundColors: a; $textColors: c; $borders: left; $borderWidth: 2; $borderRadius: 8 focus; x{}",
+        "$borderColors: b; $backgroundColors: a; $textColors: c; $borders: left; $borderWidth: 2; $borderRadius: 8 "
+        "focus; x{}",
         "a,b,c | x{} | l | 1 0 | 2 8 | 1 0");
     row("asked for none", "$borders: none; $borderColors: b;", ",b, |  |  | 1 1 | 1 0 | 0 0");
     row("top edge", "$borderRadius: 4 top focus;", ",, |  |  | 0 0 | 0 4 | 1 12");
     row("one corner", "$borderRadius: 4 bottom-left;", ",, |  |  | 0 0 | 0 4 | 0 11");
-    row("the editor's own border text", "border-style:solid;border-left-width:3px;border-top-width:3px; $textColors: c; x{}",
+    row("the editor's own border text",
+        "border-style:solid;border-left-width:3px;border-top-width:3px; $textColors: c; x{}",
         ",,c | x{} | lt | 1 0 | 3 0 | 0 0");
     row("all sides of the editor", "border-style:solid; border-width:3px; $textColors: c;",
         ",,c |  | ltrb | 1 0 | 3 0 | 0 0");
@@ -260,13 +271,13 @@ void tst_Templates::data()
     QString sides;
     sides += QLatin1String(data.leftBorder ? "l" : "") + QLatin1String(data.topBorder ? "t" : "");
     sides += QLatin1String(data.rightBorder ? "r" : "") + QLatin1String(data.bottomBorder ? "b" : "");
-    const QStringList found {
-        QStringList({data.backgroundColorSetName, data.borderColorSetName, data.textColorSetName}).join(QLatin1Char(',')),
-        data.trailingText,
-        sides,
-        QStringLiteral("%1 %2").arg(data.hasBorders).arg(data.suppressBorderColor),
-        QStringLiteral("%1 %2").arg(data.borderWidth).arg(data.borderRadius),
-        QStringLiteral("%1 %2").arg(data.focusBorderRadius).arg(data.rectangularCornerMask)};
+    const QStringList found {QStringList({data.backgroundColorSetName, data.borderColorSetName, data.textColorSetName})
+                                 .join(QLatin1Char(',')),
+                             data.trailingText,
+                             sides,
+                             QStringLiteral("%1 %2").arg(data.hasBorders).arg(data.suppressBorderColor),
+                             QStringLiteral("%1 %2").arg(data.borderWidth).arg(data.borderRadius),
+                             QStringLiteral("%1 %2").arg(data.focusBorderRadius).arg(data.rectangularCornerMask)};
     QCOMPARE(found.join(QLatin1String(" | ")), facts);
     const auto textSet = sets.find(data.textColorSetName.toStdString());
     QCOMPARE(data.textColorSet, textSet == sets.end() ? WColorSet() : textSet->second);
@@ -284,7 +295,8 @@ void tst_Templates::writtenIsReadBack()
 
     QRandomGenerator random(7);
     const QStringList names {QString(), QStringLiteral("a"), QStringLiteral("b-c")};
-    const QStringList rests {QString(), QStringLiteral("QLabel { color: $(a.normal); }"), QStringLiteral("padding: 1px;")};
+    const QStringList rests {QString(), QStringLiteral("QLabel { color: $(a.normal); }"),
+                             QStringLiteral("padding: 1px;")};
     for (int round = 0; round < 500; ++round) {
         data.backgroundColorSetName = names.at(random.bounded(3));
         data.borderColorSetName = names.at(random.bounded(3));
@@ -321,7 +333,8 @@ void tst_Templates::removal_data()
         QTest::newRow(name) << QString::fromLatin1(before) << QString::fromLatin1(after);
     };
     row("one", "$textColors: a; QLabel{}", "QLabel{}");
-    row("all six", "$textColors:a;$borderColors:a;$backgroundColors:a;$borders:a;$borderRadius:a;$borderWidth:a;x", "x");
+    row("all six", "$textColors:a;$borderColors:a;$backgroundColors:a;$borders:a;$borderRadius:a;$borderWidth:a;x",
+        "x");
     row("repeated", " x $textColors: a; y $textColors: b; z ", "x  y  z");
     row("put together by a removal", "$text$textColors: a;Colors: b; x", "x");
     row("no value", " $textColors: a", " $textColors: a");

@@ -67,7 +67,8 @@ void tst_ThemeFiles::palette_data()
     QTest::addColumn<QString>("colors");
     QTest::addColumn<QStringList>("warnings");
 
-    const auto row = [](const char *name, const QByteArray &variations, const char *colors, const QStringList &warnings) {
+    const auto row = [](const char *name, const QByteArray &variations, const char *colors,
+                        const QStringList &warnings) {
         QTest::newRow(name) << variations << QString::fromLatin1(colors) << warnings;
     };
     const auto invalid = [](const char *name) {
@@ -127,9 +128,9 @@ void tst_ThemeFiles::colorSets_data()
     QTest::addColumn<QStringList>("warnings");
 
     const QString red = QStringLiteral("ffff0000"), blue = QStringLiteral("ff0000ff"), none = QStringLiteral("-");
-    QTest::newRow("normal alone fills all") << true << QByteArray(R"({"s":{"normal":"red"}})")
-                                            << QStringList({red, red, red, red, red, red}).join(QLatin1Char(' '))
-                                            << QStringList();
+    QTest::newRow("normal alone fills all")
+        << true << QByteArray(R"({"s":{"normal":"red"}})")
+        << QStringList({red, red, red, red, red, red}).join(QLatin1Char(' ')) << QStringList();
     QTest::newRow("hovered alone falls back to nothing")
         << true << QByteArray(R"({"s":{"hovered":"red"}})")
         << QStringList({none, red, none, none, none, none}).join(QLatin1Char(' ')) << QStringList();
@@ -182,16 +183,23 @@ void tst_ThemeFiles::colorSets()
 // before, and the other colors are still there.
 void tst_ThemeFiles::everyTypeInEveryPosition()
 {
-    const QList<QJsonValue> values {QJsonValue(),        true, -1, 1e308, QString(), QStringLiteral("red"), QJsonArray {1},
-                                    QJsonObject(),       QJsonArray {},
+    const QList<QJsonValue> values {QJsonValue(),
+                                    true,
+                                    -1,
+                                    1e308,
+                                    QString(),
+                                    QStringLiteral("red"),
+                                    QJsonArray {1},
+                                    QJsonObject(),
+                                    QJsonArray {},
                                     QJsonObject {{QStringLiteral("normal"), QJsonArray()}}};
     const QByteArray good = R"({"colors":[{"variations":[
         {"name":"red","alias":"rouge","rgba":{"r":255,"g":0,"b":0,"a":1}},{"name":"keep","rgba":{"r":1,"g":2,"b":3,"a":1}}]}],
         "tokens":{"s":{"normal":"keep","hovered":"keep"},"keep":{"normal":"keep"}}})";
     int replaced = 0;
     // Replaces the n-th value of the document, counted in depth-first order.
-    std::function<QJsonValue(const QJsonValue &, int &, const QJsonValue &)> replace
-        = [&replace](const QJsonValue &in, int &n, const QJsonValue &by) -> QJsonValue {
+    std::function<QJsonValue(const QJsonValue &, int &, const QJsonValue &)> replace =
+        [&replace](const QJsonValue &in, int &n, const QJsonValue &by) -> QJsonValue {
         if (n-- == 0)
             return by;
         if (in.isObject()) {
@@ -226,7 +234,8 @@ void tst_ThemeFiles::everyTypeInEveryPosition()
             load(root, &colors, &sets);
             const bool same = spell(colors) == spell(goodColors) && sets == goodSets;
             const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
-            // Another value of the right type is no fault: a name, a component, an alias, an empty list of colors, no alias.
+            // Another value of the right type is no fault: a name, a component, an alias, an empty list of colors, no
+            // alias.
             const bool rightType = value.isNull() || value.isString() || value.isDouble() || value.isArray();
             QVERIFY2(!log.take().isEmpty() || same || rightType, text.constData());
         }
@@ -275,9 +284,10 @@ void tst_ThemeFiles::invalidStates()
     QVERIFY(!set.color(QStringLiteral("Hovered")).isValid());
     QVERIFY(!set.color(WColorSet::State(6)).isValid());
     set.setColor(WColorSet::State(-1), Qt::blue);
-    QCOMPARE(log.take(), QStringList({QStringLiteral("WColorSet: color state is invalid!"),
-                                      QStringLiteral("WColorSet: color state is invalid!"),
-                                      QStringLiteral("WColorSet: color state is invalid!")}));
+    QCOMPARE(log.take(),
+             QStringList({QStringLiteral("WColorSet: color state is invalid!"),
+                          QStringLiteral("WColorSet: color state is invalid!"),
+                          QStringLiteral("WColorSet: color state is invalid!")}));
     QCOMPARE(set.color(QStringLiteral("checked")), QColor(Qt::red));
 }
 

@@ -111,6 +111,7 @@ public:
     int borderWidth = 0;
     int borderRadius = 0;
     bool hasFocusProperties = false;
+    bool drawsOwnBox = false;
     QString themeType = QStringLiteral("global");
     WThemeUtils::AppThemeType shownType = WThemeUtils::AppThemeTypeGlobal;
 
@@ -192,6 +193,8 @@ void ThemeSupport::follow(QEvent *event)
     case QEvent::ParentChange:
         if (!d->attached)
             break;
+        if (d->drawsOwnBox)
+            setDrawsOwnBox();
         d->followParent();
         if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
             d->hooks->onParentThemeTypeChanged(d->widget);
@@ -203,6 +206,13 @@ void ThemeSupport::follow(QEvent *event)
         break;
     default: break;
     }
+}
+
+void ThemeSupport::setDrawsOwnBox()
+{
+    d->drawsOwnBox = true;
+    // In a window nothing else would paint what is beside the box.
+    d->widget->setAttribute(Qt::WA_NoSystemBackground, !d->widget->isWindow());
 }
 
 QString ThemeSupport::css() const

@@ -4,10 +4,12 @@ WDateTimeEdit::WDateTimeEdit(QWidget *parent)
     : Themed(parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
 
 WDateTimeEdit::WDateTimeEdit(const QDateTime &dateTime, QWidget *parent)
     : Themed(dateTime, parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }

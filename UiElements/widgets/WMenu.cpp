@@ -4,10 +4,12 @@ WMenu::WMenu(QWidget *parent)
     : Themed(parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
 
 WMenu::WMenu(const QString &title, QWidget *parent)
     : Themed(title, parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }

@@ -7,6 +7,7 @@ WProgressBar::WProgressBar(QWidget *parent)
     : Themed(parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
 
 void WProgressBar::setLength(int *length, int value)

@@ -4,10 +4,12 @@ WRadioButton::WRadioButton(QWidget *parent)
     : Themed(parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
 
 WRadioButton::WRadioButton(const QString &text, QWidget *parent)
     : Themed(text, parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }

@@ -26,6 +26,8 @@ void WTextEdit::paintEvent(QPaintEvent *event)
         option.rect = viewport()->rect();
         option.backgroundColor = palette().color(QPalette::Base);
         option.state |= QStyle::State_KeyboardFocusChange;
+        // Only the frame: some styles tint all that they surround, and the text would stand on the tint.
+        painter.setClipRegion(QRegion(option.rect) - option.rect.adjusted(2, 2, -2, -2));
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
     QTextEdit::paintEvent(event);

@@ -4,10 +4,12 @@ WTimeEdit::WTimeEdit(QWidget *parent)
     : Themed(parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
 
 WTimeEdit::WTimeEdit(const QTime &time, QWidget *parent)
     : Themed(time, parent)
 {
     initTheme();
+    theme().setDrawsOwnBox();
 }
