@@ -1,0 +1,53 @@
+#include <UiElements/app/WApplication.h>
+#include <UiElements/theme/WThemeUtils.h>
+#include <UiElements/widgets/WFrame.h>
+#include <UiElements/widgets/WRadioButton.h>
+#include <UiElements/widgets/WWidget.h>
+
+#include <QVBoxLayout>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    WApplication app(argc, argv);
+    const QString folder = QStringLiteral(UIELEMENTS_CONFIG_DIR);
+    const WPalette palette = WThemeUtils::parseWColorsFromJson(folder + QStringLiteral("/colors.json"));
+    const auto read = [&](const QString &name) {
+        return WThemeUtils::parseWColorSetsFromJson(folder + QStringLiteral("/themes/") + name, palette);
+    };
+    const WColorSets light = read(QStringLiteral("default.json"));
+    const WColorSets dark = read(QStringLiteral("defaultDark.json"));
+    const auto show = [&](bool isDark) {
+        app.setColorSets(isDark ? dark : light);
+        app.setInvertedColorSets(isDark ? light : dark);
+        app.setIsDarkTheme(isDark);
+    };
+    show(false);
+
+    WWidget window;
+    window.setCSS(QStringLiteral("$backgroundColors: background-primary;"));
+    WFrame frame(&window);
+    frame.setCSS(QStringLiteral("$borders: all; $borderColors: outline-primary; $borderRadius: 8;"));
+    WRadioButton lightButton(QStringLiteral("Light"), &frame), darkButton(QStringLiteral("Dark"), &frame);
+    for (WRadioButton *button : {&lightButton, &darkButton})
+        button->setCSS(QStringLiteral("$textColors: text-primary; padding: 6px;"
+                                      "::indicator { width: 8px; height: 8px; border-radius: 6px;"
+                                      "  border: 2px solid $(control-indicator-border.normal); }"
+                                      "::indicator:checked { background: $(control-indicator-border.checked); }"));
+    lightButton.setChecked(true);
+    QObject::connect(&darkButton, &QRadioButton::toggled, &app, show);
+
+    QVBoxLayout inFrame(&frame), inWindow(&window);
+    inFrame.addWidget(&lightButton);
+    inFrame.addWidget(&darkButton);
+    inWindow.addWidget(&frame);
+    window.show();
+
+    if (!app.arguments().contains(QStringLiteral("--check")))
+        return app.exec();
+    const int before = window.grab().toImage().pixelColor(2, 2).lightness();
+    darkButton.click();
+    const int after = window.grab().toImage().pixelColor(2, 2).lightness();
+    std::puts(before > 127 && after < 128 ? "ok" : "the window did not turn dark");
+}
