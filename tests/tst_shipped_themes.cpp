@@ -173,15 +173,19 @@ std::vector<Pair> contrastPairs()
     text(QStringLiteral("input-placeholder-text"), QStringLiteral("input-background"));
     text(QStringLiteral("call-text"), QStringLiteral("call-accept-background"));
     text(QStringLiteral("call-text"), QStringLiteral("call-decline-background"));
-    for (const QString &kind : list("info warning error"))
+    const QStringList kinds = list("info warning error");
+    for (const QString &kind : kinds)
         text(QStringLiteral("banner-text"), QStringLiteral("banner-%1-background").arg(kind));
-    for (const QString &below : panes + list("dialog-background")) {
+    const QStringList backgrounds = panes + list("dialog-background");
+    for (const QString &below : backgrounds) {
         text(QStringLiteral("button-ghost-text"), QStringLiteral("button-ghost-background"), below);
         text(QStringLiteral("qx-underlineButton-text"), QStringLiteral("qx-underlineButton-background"), below);
     }
-    for (const QString &below : list("list-background background-primary background-secondary"))
+    const QStringList listGrounds = list("list-background background-primary background-secondary");
+    for (const QString &below : listGrounds)
         text(QStringLiteral("list-item-text"), QStringLiteral("list-item-background"), below);
-    for (const QString &kind : list("menu navigation"))
+    const QStringList itemKinds = list("menu navigation");
+    for (const QString &kind : itemKinds)
         text(kind + QStringLiteral("-item-text"), kind + QStringLiteral("-item-background"),
              kind + QStringLiteral("-background"));
 
@@ -198,7 +202,8 @@ std::vector<Pair> contrastPairs()
                                    "scrollbar-handle-background presence-active presence-away presence-busy "
                                    "presence-offline badge-background qx-unreadCountCircle-background");
     for (const QString &front : marks) {
-        for (const QString &back : panes + list("dialog-background list-background"))
+        const QStringList grounds = panes + list("dialog-background list-background");
+        for (const QString &back : grounds)
             pairs.push_back({front, back, Mark, QString(), true});
     }
     return pairs;

@@ -39,18 +39,18 @@ enum Situation {
     LayoutAsksBeforeShow,
 };
 
-static const QStringList situations {
-    QStringLiteral("set before show"),
-    QStringLiteral("set after show"),
-    QStringLiteral("re-parented"),
-    QStringLiteral("ancestor gets a sheet later"),
-    QStringLiteral("application gets a sheet later"),
-    QStringLiteral("application style replaced"),
-    QStringLiteral("child asked for its size hint before show"),
-    QStringLiteral("hidden and shown"),
-    QStringLiteral("unpolished and polished from outside"),
-    QStringLiteral("sheet set from outside"),
-    QStringLiteral("layout asks before show"),
+static const char *const situations[] {
+    "set before show",
+    "set after show",
+    "re-parented",
+    "ancestor gets a sheet later",
+    "application gets a sheet later",
+    "application style replaced",
+    "child asked for its size hint before show",
+    "hidden and shown",
+    "unpolished and polished from outside",
+    "sheet set from outside",
+    "layout asks before show",
 };
 
 static const QString css =
@@ -87,8 +87,8 @@ void tst_StyleSheetProperty::lookAndTemplate_data()
     QTest::addColumn<MakeWidget>("make");
     QTest::addColumn<int>("situation");
     forEachThemedClass([](const char *name, const MakeWidget &make) {
-        for (int i = 0; i < situations.size(); ++i)
-            QTest::addRow("%s, %s", name, qPrintable(situations.at(i))) << make << i;
+        for (int i = SetBeforeShow; i <= LayoutAsksBeforeShow; ++i)
+            QTest::addRow("%s, %s", name, situations[i]) << make << i;
     });
 }
 

@@ -204,7 +204,8 @@ void tst_ThemeFiles::everyTypeInEveryPosition()
             return by;
         if (in.isObject()) {
             QJsonObject out = in.toObject();
-            for (const QString &key : out.keys())
+            const QStringList keys = out.keys();
+            for (const QString &key : keys)
                 out[key] = replace(out.value(key), n, by);
             return out;
         }

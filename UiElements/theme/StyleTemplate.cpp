@@ -169,6 +169,12 @@ const QStringList &StyleTemplate::geometryDirectives()
     return directives;
 }
 
+const QStringList &StyleTemplate::allDirectives()
+{
+    static const QStringList directives = colorDirectives() + geometryDirectives();
+    return directives;
+}
+
 QString StyleTemplate::directiveValue(const QString &directive, const QString &css)
 {
     const int start = css.indexOf(directive);
@@ -182,7 +188,7 @@ QString StyleTemplate::withoutDirectives(const QString &css)
         return css;
     QString rest = css;
     bool removed = false;
-    for (const QString &directive : colorDirectives() + geometryDirectives())
+    for (const QString &directive : allDirectives())
         removed = removeDirective(directive, rest) || removed;
     return removed ? rest.trimmed() : css;
 }
@@ -294,7 +300,7 @@ void StyleTemplate::readDirectives(QString rest, int marks)
     const Found radius = takeFirst(geometry.at(1), rest);
     for (int i = 0; i < 3; ++i)
         m_directives.colorSetNames[i] = directiveValue(colorDirectives().at(i), rest);
-    for (const QString &directive : colorDirectives() + geometry)
+    for (const QString &directive : allDirectives())
         removeDirective(directive, rest);
     const bool removed = rest.size() != before;
     if (removed)
@@ -305,7 +311,7 @@ void StyleTemplate::readDirectives(QString rest, int marks)
     }
 
     // What is left of a directive has no ";" and so no value. It is cut out, or Qt would refuse the whole sheet.
-    for (const QString &directive : colorDirectives() + geometry) {
+    for (const QString &directive : allDirectives()) {
         const int start = rest.indexOf(directive);
         if (start < 0)
             continue;

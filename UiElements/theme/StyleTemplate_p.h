@@ -23,6 +23,7 @@ public:
     /// Which directives there are and how they are spelled.
     static const QStringList &colorDirectives();
     static const QStringList &geometryDirectives();
+    static const QStringList &allDirectives(); ///< in the order in which they are removed
 
     /// The value of the directive: the text up to the next ";", trimmed. Empty when there is no such directive.
     static QString directiveValue(const QString &directive, const QString &css);

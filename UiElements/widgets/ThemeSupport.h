@@ -43,8 +43,8 @@ public:
     /// To be called with every event of the widget, before the widget handles it.
     void follow(QEvent *event);
 
-    /// The widget's style draws the whole box of its rule. Qt's background for Qt::WA_StyledBackground would come on top
-    /// of that once more, which shows where colors are translucent, and under a part that is drawn smaller.
+    /// The widget's style draws the whole box of its rule. Qt's background for Qt::WA_StyledBackground would come on
+    /// top of that once more, which shows where colors are translucent, and under a part that is drawn smaller.
     void setDrawsOwnBox();
 
     QString css() const;

@@ -17,6 +17,7 @@ public:
     explicit WDialog(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
 
     W_THEME_SIGNALS
+Q_SIGNALS:
     /// The dialog accepted a close event: by the title bar, by close(), not by accept() or reject().
     void onClose();
     W_THEME_SLOTS

@@ -21,6 +21,7 @@ public:
     void reset() override;
 
     W_THEME_SIGNALS
+Q_SIGNALS:
     /// The item has come into view, or was changed while in view. Never for an item out of view.
     void updateItemWidget(QListWidgetItem *item);
     /// The width for items changed: item widgets whose height depends on it are to be measured again.
