@@ -304,7 +304,7 @@ void tst_ThemedWidgets::accessibleInterfacesOfQtRemain()
     QAccessibleInterface *parent = QAccessible::queryAccessibleInterface(&window);
     QCOMPARE(interface->parent(), parent);
     QCOMPARE(parent->child(parent->indexOfChild(interface)), interface);
-    list->takeItem(0); // the interface is told of its rows
+    delete list->takeItem(0); // the interface is told of its rows
     QCOMPARE(interface->tableInterface()->rowCount(), 1);
     delete list;
     QCOMPARE(parent->childCount(), 0);
