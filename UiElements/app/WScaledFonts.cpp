@@ -56,8 +56,7 @@ void WScaledFonts::setScalingFactor(FontManagerEnum::FontScalingFactor factor)
         return;
     }
     m_scalingFactor = factor;
-    if (!m_fonts.empty())
-        initializeTokens();
+    m_isPrepared.reset();
     Q_EMIT fontTokenChanged();
 }
 
@@ -68,7 +67,9 @@ QFont WScaledFonts::getFont(WFont::Token token) const
 
 void WScaledFonts::initializeTokens()
 {
-    m_fonts = build();
+    m_isPrepared.reset();
+    for (int font = 0; font < PreparedFontCount; ++font)
+        prepared(PreparedFont(font));
 }
 
 WScaledFonts::PreparedFont WScaledFonts::preparedFontOf(WFont::Token token)
@@ -100,26 +101,24 @@ WScaledFonts::PreparedFont WScaledFonts::preparedFontOf(WFont::Token token)
     return DefaultFont;
 }
 
-std::vector<QFont> WScaledFonts::build() const
+QFont WScaledFonts::build(PreparedFont preparedFont) const
 {
     static_assert(std::size(sources) == PreparedFontCount, "one source for each prepared font");
-    const float applicationScale = FontTokens::applicationScale();
-    const float multiplier = multipliers[m_scalingFactor];
-    std::vector<QFont> fonts;
-    fonts.reserve(PreparedFontCount);
-    for (const Source &source : sources) {
-        WFont font(source.token, FontTokens::wantsFallbackFamilies(source.token));
-        // From the unscaled size, because scaling the rounded one would round twice.
-        const int size = source.pixelSize ? source.pixelSize : FontTokens::find(source.token)->pixelSize;
-        font.setPixelSize(FontTokens::roundedPixelSize(static_cast<float>(size) * applicationScale * multiplier));
-        fonts.push_back(font);
-    }
-    return fonts;
+    const Source &source = sources[preparedFont];
+    WFont font(source.token, FontTokens::wantsFallbackFamilies(source.token));
+    // From the unscaled size, because scaling the rounded one would round twice.
+    const int size = source.pixelSize ? source.pixelSize : FontTokens::find(source.token)->pixelSize;
+    const float scaled = static_cast<float>(size) * FontTokens::applicationScale() * multipliers[m_scalingFactor];
+    font.setPixelSize(FontTokens::roundedPixelSize(scaled));
+    return font;
 }
 
 QFont WScaledFonts::prepared(PreparedFont font) const
 {
-    if (m_fonts.empty())
-        m_fonts = build();
+    if (!m_isPrepared[font]) {
+        m_fonts.resize(PreparedFontCount);
+        m_fonts[font] = build(font);
+        m_isPrepared.set(font);
+    }
     return m_fonts[font];
 }

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QObject>
 
+#include <bitset>
 #include <vector>
 
 /// The fonts of one kind of view, at the view's own scaling factor on top of the application's.
@@ -105,9 +106,11 @@ private:
     };
 
     static PreparedFont preparedFontOf(WFont::Token token);
-    std::vector<QFont> build() const;
+    QFont build(PreparedFont font) const;
     QFont prepared(PreparedFont font) const;
 
     FontManagerEnum::FontScalingFactor m_scalingFactor = FontManagerEnum::Regular;
-    mutable std::vector<QFont> m_fonts; // empty until one is asked for
+    // Each font from its first use on.
+    mutable std::vector<QFont> m_fonts;
+    mutable std::bitset<PreparedFontCount> m_isPrepared;
 };

@@ -3,6 +3,8 @@
 #include <QDebug>
 #include <QHash>
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace {
@@ -219,11 +221,15 @@ std::shared_ptr<const StyleTemplate> StyleTemplate::shared(const QString &css)
         return std::make_shared<StyleTemplate>(css);
     static QHash<QString, std::weak_ptr<const StyleTemplate>> known;
     static int sweepAt = 64;
+    // Callers that hold nothing come back with the same few texts.
+    static std::array<std::shared_ptr<const StyleTemplate>, 64> recent;
+    static std::size_t next = 0;
     std::weak_ptr<const StyleTemplate> &entry = known[css];
     std::shared_ptr<const StyleTemplate> result = entry.lock();
     if (!result) {
         result = std::make_shared<StyleTemplate>(css);
         entry = result;
+        recent[next++ % recent.size()] = result;
         if (known.size() >= sweepAt) {
             for (auto it = known.begin(); it != known.end();)
                 it = it->expired() ? known.erase(it) : std::next(it);
@@ -478,7 +484,6 @@ void StyleTemplate::writeDirectives()
         }
         m_ops.push_back({Op::StateRules, qint8(marker >= 0 ? 1 : 0), i, 0});
         for (int state = marker >= 0 ? 1 : 0; state < WColorSet::StateCount; ++state) {
-            ++m_selectorCount;
             ++m_colorCount;
             m_literalLength += int(qstrlen(PseudoStates[state]) + qstrlen(ColorProperties[i])) + 4; // "{", ";} "
         }
@@ -539,7 +544,6 @@ void StyleTemplate::addLiteral(const QString &text)
 void StyleTemplate::addSelector()
 {
     m_ops.push_back({Op::Selector, 0, 0, 0});
-    ++m_selectorCount;
 }
 
 void StyleTemplate::addColor(int set, int state)
@@ -563,6 +567,7 @@ const StyleTemplate::Resolved &StyleTemplate::resolve(const ColorTable &table) c
         recent.complete = recent.complete && (recent.index[i] >= 0 || m_setNames[i].empty());
     }
     recent.generation = table.generation();
+    fill(&recent, table);
     return recent;
 }
 
@@ -626,9 +631,33 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
     if (m_troubled || !resolved.complete)
         report(resolved);
 
-    QString result(m_literalLength + m_selectorCount * selector.size() + m_colorCount * ColorTable::HexLength,
-                   Qt::Uninitialized);
-    auto *out = reinterpret_cast<char16_t *>(result.data());
+    QString result(resolved.text.size() + int(resolved.cuts.size()) * selector.size(), Qt::Uninitialized);
+    QChar *out = result.data();
+    const QChar *const text = resolved.text.constData();
+    const QChar *const name = selector.constData();
+    const auto nameLength = std::size_t(selector.size());
+    int from = 0;
+    for (const int cut : resolved.cuts) {
+        std::memcpy(out, text + from, std::size_t(cut - from) * sizeof(QChar));
+        out += cut - from;
+        std::memcpy(out, name, nameLength * sizeof(QChar));
+        out += nameLength;
+        from = cut;
+    }
+    std::memcpy(out, text + from, std::size_t(resolved.text.size() - from) * sizeof(QChar));
+    return result;
+}
+
+void StyleTemplate::fill(Resolved *target, const ColorTable &table) const
+{
+    const Resolved &resolved = *target;
+    QString result(m_literalLength + m_colorCount * ColorTable::HexLength, Qt::Uninitialized);
+    auto *const begin = reinterpret_cast<char16_t *>(result.data());
+    auto *out = begin;
+    target->cuts.clear();
+    const auto cut = [&] {
+        target->cuts.push_back(int(out - begin));
+    };
     const auto copy = [&out](const void *text, int length) {
         std::memcpy(out, text, std::size_t(length) * sizeof(char16_t));
         out += length;
@@ -645,7 +674,7 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
     for (const Op &op : m_ops) {
         switch (op.kind) {
         case Op::Literal: copy(m_text.constData() + op.a, op.b); break;
-        case Op::Selector: copy(selector.constData(), selector.size()); break;
+        case Op::Selector: cut(); break;
         case Op::Color: color(op.a, op.state); break;
         case Op::StateRules: {
             const int index = resolved.index[std::size_t(m_directiveSet[op.a])];
@@ -653,7 +682,7 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
             for (const WColorSet::State state : focusShows ? RuleOrder : RuleOrderFocusHidden) {
                 if (state < op.state)
                     continue; // the normal state of a gradient is written already
-                copy(selector.constData(), selector.size());
+                cut();
                 latin1(PseudoStates[state]);
                 *out++ = u'{';
                 latin1(ColorProperties[op.a]);
@@ -664,5 +693,5 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
         }
         }
     }
-    return result;
+    target->text = result;
 }

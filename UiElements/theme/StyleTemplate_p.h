@@ -12,9 +12,10 @@
 
 /// A style template, read once and written as often as the theme changes.
 ///
-/// Reading cuts the text into the runs that never change and the places where a selector or a color goes; writing then
-/// is one allocation and a row of copies. What it writes is the same, character for character, as replacing the tokens
-/// in the text and expanding the directives of the result.
+/// Reading cuts the text into the runs that never change and the places where a selector or a color goes. The first
+/// writing against a table puts the colors in; every further one is one allocation and a copy between the places of
+/// selectors, which is what a hundred widgets with the same template need. What it writes is the same, character for
+/// character, as replacing the tokens in the text and expanding the directives of the result.
 ///
 /// GUI thread only: an expansion remembers which sets it found where.
 class StyleTemplate
@@ -86,6 +87,8 @@ private:
         quint64 generation = 0;
         std::vector<int> index; ///< for each of m_setNames its index in the table, -1 unknown
         bool complete = false;
+        QString text; ///< everything but the selectors
+        std::vector<int> cuts; ///< where in text they go
     };
 
     QString readTokens(const QString &css);
@@ -99,6 +102,7 @@ private:
     void addLiteral(const QString &text);
     void addSelector();
     void addColor(int set, int state);
+    void fill(Resolved *target, const ColorTable &table) const;
     const Resolved &resolve(const ColorTable &table) const;
     void report(const Resolved &resolved) const;
 
@@ -112,7 +116,7 @@ private:
     int m_directiveSet[3] = {-1, -1, -1};
     int m_gradientSet[2] = {-1, -1};
     QStringList m_unterminated;
-    int m_literalLength = 0, m_selectorCount = 0, m_colorCount = 0;
+    int m_literalLength = 0, m_colorCount = 0;
     bool m_troubled = false; ///< there is something to report whatever the sets are
     bool m_twoPasses = false;
     mutable Resolved m_resolved[2]; ///< a widget switches between at most two registries

@@ -261,6 +261,16 @@ void ThemeSupport::applyTheme()
         applyFont();
 }
 
+void ThemeSupport::beginEngineReads()
+{
+    ++engineReads;
+}
+
+void ThemeSupport::endEngineReads()
+{
+    --engineReads;
+}
+
 // Qt's style engine takes the sheet of a widget, and of each of its ancestors, from the property "styleSheet" and not
 // from QWidget::styleSheet(). Handed a template it would find no sheet in it and the widget would lose its look;
 // people, forms and tools ask the same property for the template. Nothing tells who asks. But the engine reads the text

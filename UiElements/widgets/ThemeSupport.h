@@ -52,6 +52,9 @@ public:
     void refresh();
     /// Template and font. Slots connected to the widget may destroy it meanwhile.
     void applyTheme();
+    /// In between, whoever reads the property "styleSheet" of a themed widget is known to be Qt's style engine.
+    static void beginEngineReads();
+    static void endEngineReads();
     /// What the property "styleSheet" answers: the template, but the expanded text to Qt's style engine.
     QString styleSheetProperty() const;
 

@@ -82,7 +82,12 @@ protected:
     {
         m_theme.follow(event);
         const QEvent::Type type = event->type();
+        const bool polishes = type == QEvent::Polish;
+        if (polishes)
+            ThemeSupport::beginEngineReads();
         const bool handled = Base::event(event);
+        if (polishes)
+            ThemeSupport::endEngineReads();
         // A frame lays its margins anew for each of these.
         if (type == QEvent::LayoutDirectionChange || type == QEvent::StyleChange)
             m_theme.applyMargins();
