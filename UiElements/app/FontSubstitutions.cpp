@@ -10,15 +10,12 @@ struct Substitution
     const char *standIns; // the preferred one first, separated by commas
 };
 
+// Only the families that carry our texts. The further ones of the fallback lists serve single scripts, for which the
+// system finds a font by itself; naming their stand-ins here would only cost every program start.
 constexpr Substitution substitutions[] = {
     {"Segoe UI", "Open Sans,Noto Sans,Noto Color Emoji"},
     {"Segoe UI Emoji", "Noto Color Emoji"},
     {"Consolas", "Inconsolata,DejaVu Sans Mono"},
-    {"Ebrima", "Noto Sans Ethiopic,Noto Sans Tifinagh,Noto Sans NKo,Noto Sans Vai,Noto Sans Osmanya,Noto Sans Adlam"},
-    {"Myanmar Text", "Noto Sans Myanmar,Padauk"},
-    {"Nirmala UI",
-     "Noto Sans Devanagari,Noto Sans Bengali,Noto Sans Gurmukhi,Noto Sans Gujarati,Noto Sans Oriya,Noto Sans Tamil,"
-     "Noto Sans Telugu,Noto Sans Kannada,Noto Sans Malayalam,Noto Sans Sinhala,Noto Sans Ol Chiki"},
 };
 } // namespace
 
