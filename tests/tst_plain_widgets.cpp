@@ -15,6 +15,8 @@ private Q_SLOTS:
     void listTellsWhatIsInView();
     void listTellsOfKeysAndWidth();
     void progressBarGeometry();
+    void sliderFillsFromItsStart_data();
+    void sliderFillsFromItsStart();
     void pixmap();
     void textEditFocusFrame();
 };
@@ -142,6 +144,52 @@ void tst_PlainWidgets::progressBarGeometry()
     QCOMPARE(bar.barHeight(), 12);
     bar.setBarWidth(0);
     QCOMPARE(bar.maximumWidth(), QWIDGETSIZE_MAX);
+}
+
+void tst_PlainWidgets::sliderFillsFromItsStart_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("inverted");
+    QTest::addColumn<bool>("fromRight");
+    QTest::newRow("left to right") << Qt::LeftToRight << false << false;
+    QTest::newRow("right to left") << Qt::RightToLeft << false << true;
+    QTest::newRow("left to right, inverted") << Qt::LeftToRight << true << true;
+    QTest::newRow("right to left, inverted") << Qt::RightToLeft << true << false;
+}
+
+void tst_PlainWidgets::sliderFillsFromItsStart()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(bool, inverted);
+    QFETCH(bool, fromRight);
+    QWidget window;
+    WSlider slider(Qt::Horizontal, &window);
+    slider.setLayoutDirection(direction);
+    slider.setInvertedAppearance(inverted);
+    slider.setRange(0, 100);
+    slider.setValue(25);
+    slider.setCSS(
+        QStringLiteral("WSlider::groove { height: 20px; background: #ffffff; } "
+                       "WSlider::handle { width: 10px; background: #00ff00; } "
+                       "WSlider::handle:hover { background: #ffff00; } "
+                       "WSlider::sub-page { background: #ff0000; } WSlider::add-page { background: #0000ff; }"));
+    slider.resize(210, 20);
+    const auto at = [&slider](int x) {
+        return slider.grab().toImage().pixelColor(x, 10);
+    };
+    const auto place = [fromRight](int fromStart) {
+        return fromRight ? 209 - fromStart : fromStart;
+    };
+    QCOMPARE(at(place(20)), QColor(Qt::red));
+    QCOMPARE(at(place(150)), QColor(Qt::blue));
+    QCOMPARE(at(place(55)), QColor(Qt::green));
+    // The handle is where it is drawn.
+    window.resize(300, 100);
+    window.show();
+    QTest::mousePress(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(place(55), 10));
+    QVERIFY(slider.isSliderDown());
+    QTest::mouseRelease(&slider, Qt::LeftButton, Qt::NoModifier, QPoint(place(55), 10));
+    QCOMPARE(slider.value(), 25);
 }
 
 void tst_PlainWidgets::pixmap()

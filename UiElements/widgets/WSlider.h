@@ -6,6 +6,10 @@
 #include <QSlider>
 
 /// A themeable slider.
+///
+/// In a template `::sub-page` is the part before the handle of a horizontal slider, also where that is the right one:
+/// in a right-to-left layout, or with an inverted appearance. (Qt takes the left part whatever the direction.) Of a
+/// vertical slider it is the part above the handle, as Qt has it.
 class UIELEMENTS_EXPORT WSlider : public Themed<WSlider, QSlider>
 {
     Q_OBJECT
@@ -26,4 +30,7 @@ public Q_SLOTS:
     void onThemeChanged();
     void onLayoutDirectionChanged();
 #endif
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };
