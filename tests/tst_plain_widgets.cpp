@@ -183,6 +183,11 @@ void tst_PlainWidgets::sliderFillsFromItsStart()
     QCOMPARE(at(place(20)), QColor(Qt::red));
     QCOMPARE(at(place(150)), QColor(Qt::blue));
     QCOMPARE(at(place(55)), QColor(Qt::green));
+    slider.setAttribute(Qt::WA_UnderMouse);
+    QHoverEvent hover(QEvent::HoverEnter, QPointF(place(55), 10), QPointF(-1, -1));
+    QCoreApplication::sendEvent(&slider, &hover);
+    QCOMPARE(at(place(55)), QColor(Qt::yellow));
+    slider.setAttribute(Qt::WA_UnderMouse, false);
     // The handle is where it is drawn.
     window.resize(300, 100);
     window.show();

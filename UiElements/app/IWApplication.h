@@ -44,9 +44,8 @@ public:
 
 Q_SIGNALS:
     /// The colors that elements draw with may be others now. Also emitted after the dark or the high-contrast flag
-    /// changed, because the flags decide which registry a theme type means. By the time a host's slot runs, every
-    /// themed widget that existed before the slot was connected may or may not have been styled again; connect to a
-    /// widget's cssChanged() to know.
+    /// changed, because the flags decide which registry a theme type means. A slot connected after the first themed
+    /// widget was made finds all of them restyled; one connected earlier runs before that.
     void colorSetsChanged();
     void animationsDisabledChanged(bool animationsDisabled);
 

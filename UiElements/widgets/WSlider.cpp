@@ -1,6 +1,6 @@
 #include <UiElements/widgets/WSlider.h>
 
-#include <QCursor>
+#include <QHoverEvent>
 #include <QStyleOptionSlider>
 #include <QStylePainter>
 
@@ -16,6 +16,13 @@ WSlider::WSlider(QWidget *parent)
 {
     initTheme();
     theme().setDrawsOwnBox();
+}
+
+bool WSlider::event(QEvent *event)
+{
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
+        m_hoverPosition = static_cast<QHoverEvent *>(event)->pos();
+    return Themed::event(event);
 }
 
 void WSlider::paintEvent(QPaintEvent *event)
@@ -34,8 +41,7 @@ void WSlider::paintEvent(QPaintEvent *event)
         option.activeSubControls = QStyle::SC_SliderHandle;
         option.state |= QStyle::State_Sunken;
     } else if (underMouse()) {
-        option.activeSubControls =
-            style()->hitTestComplexControl(QStyle::CC_Slider, &option, mapFromGlobal(QCursor::pos()), this);
+        option.activeSubControls = style()->hitTestComplexControl(QStyle::CC_Slider, &option, m_hoverPosition, this);
     }
     option.upsideDown = false;
     option.direction = Qt::LeftToRight;

@@ -3,6 +3,7 @@
 #include <UiElements/uielements_export.h>
 #include <UiElements/widgets/Themed.h>
 
+#include <QPoint>
 #include <QSlider>
 
 /// A themeable slider.
@@ -32,5 +33,9 @@ public Q_SLOTS:
 #endif
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPoint m_hoverPosition;
 };
