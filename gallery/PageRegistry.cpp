@@ -1,0 +1,43 @@
+#include "PageRegistry.h"
+
+#include "pages/ChoicesPage.h"
+#include "pages/ColorsPage.h"
+#include "pages/DateTimePage.h"
+#include "pages/ListsPage.h"
+#include "pages/OverviewPage.h"
+#include "pages/TemplatesPage.h"
+#include "pages/TextPage.h"
+#include "pages/ThemeTypesPage.h"
+#include "pages/TypePage.h"
+#include "pages/WindowsPage.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+template <typename P>
+PageEntry page(const char *name, const char *title)
+{
+    return {QString::fromLatin1(name), QCoreApplication::translate("PageRegistry", title), [] {
+                return new P;
+            }};
+}
+
+} // namespace
+
+const QVector<PageEntry> &allPages()
+{
+    static const QVector<PageEntry> pages {
+        page<OverviewPage>("overview", "Overview"),
+        page<WindowsPage>("windows", "Windows and frames"),
+        page<ListsPage>("lists", "Lists and trees"),
+        page<TextPage>("text", "Text"),
+        page<DateTimePage>("datetime", "Date and time"),
+        page<ChoicesPage>("choices", "Choices and values"),
+        page<ThemeTypesPage>("themetypes", "Theme types"),
+        page<TypePage>("type", "Type"),
+        page<ColorsPage>("colors", "Colors"),
+        page<TemplatesPage>("templates", "Templates"),
+    };
+    return pages;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Page.h"
+
+/// Item views: lists, trees and their headers.
+class ListsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    ListsPage();
+};

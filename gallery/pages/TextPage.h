@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Page.h"
+
+/// Text that is edited and text that is read.
+class TextPage : public Page
+{
+    Q_OBJECT
+
+public:
+    TextPage();
+};
