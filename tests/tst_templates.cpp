@@ -30,6 +30,7 @@ private Q_SLOTS:
     void removal_data();
     void removal();
     void directiveNames();
+    void messagesMayComeBack();
     void timeIsLinear_data();
     void timeIsLinear();
 };
@@ -117,6 +118,20 @@ void tst_Templates::expansion_data()
     row("no closing ;", "$borderColors: b; QLabel{color:red} $textColors: c",
         rules("border-color", 1) + QStringLiteral("QLabel{color:red} "),
         {QStringLiteral("WThemeUtils: directive without a closing ; is ignored: \"$textColors: c\"")});
+    const auto unclosed = [](const char *directive) {
+        return QStringLiteral("WThemeUtils: directive without a closing ; is ignored: \"%1\"")
+            .arg(QLatin1String(directive));
+    };
+    row("no closing ; behind a list", "padding: 3px; $borders: left, right", QStringLiteral("padding: 3px; "),
+        {unclosed("$borders: left, right")});
+    row("no closing ; behind a radius, a rule after it", "$borderRadius: 6px top QLabel{}", QStringLiteral(" QLabel{}"),
+        {unclosed("$borderRadius: 6px top")});
+    row("no closing ; twice", "$textColors: a $textColors: b x{}", QStringLiteral("  x{}"),
+        {unclosed("$textColors: a")}); // said once
+    row("a quoted ; ends nothing", "$borderRadius: 3; qproperty-text: 'it\\'s; x'; QLabel{}",
+        QStringLiteral("S{border-radius:3px;} S{qproperty-text: 'it\\'s; x';}  QLabel{}"));
+    row("nor does one in parentheses", "$borderRadius: 3; background: url(a;b); QLabel{}",
+        QStringLiteral("S{border-radius:3px;} S{background: url(a;b);}  QLabel{}"));
     row("no closing ; at all", "$textColors: c", QString(),
         {QStringLiteral("WThemeUtils: directive without a closing ; is ignored: \"$textColors: c\"")});
     row("a token inside a directive", "$textColors: $(a.normal);QLabel{color:$(b.normal)}",
@@ -131,14 +146,23 @@ void tst_Templates::expansion_data()
     row("width of its own", "$borders: bottom;", QStringLiteral("S{border-style:solid;border-bottom-width:1px;} "));
     row("no side", "$borders: none;", QStringLiteral("S{border:none;} "));
     row("a width alone says nothing", "$borderWidth: 4;", QString());
-    row("no number", "$borders: all; $borderWidth: wide;", QStringLiteral("S{border-style:solid; border-width:1px;} "));
+    const auto strange = [](const char *directive) {
+        return QStringList(QStringLiteral("WThemeUtils: directive is not understood as a whole: \"%1\"")
+                               .arg(QLatin1String(directive)));
+    };
+    row("no number", "$borders: all; $borderWidth: wide;", QStringLiteral("S{border-style:solid; border-width:1px;} "),
+        strange("$borderWidth: wide"));
+    row("a forgotten ;", "$borders: top\n$textColors: b; x{}",
+        QStringLiteral("S{border-style:solid;border-top-width:1px;} x{}"), strange("$borders: top\\n$textColors: b"));
+    row("no corner", "$borderRadius: 6 middle;", QStringLiteral("S{border-radius:6px;} "),
+        strange("$borderRadius: 6 middle"));
     row("radius", "$borderRadius: 6;", QStringLiteral("S{border-radius:6px;} "));
     row("top edge", "$borderRadius: 6 top;",
         QStringLiteral("S{border-top-left-radius:6px; border-top-right-radius:6px;} "));
     row("one corner", "$borderRadius: bottom-left, 6px;", QStringLiteral("S{border-bottom-left-radius:6px;} "));
     row("border and radius in one rule", "$borderRadius:6;$borders:all;",
         QStringLiteral("S{border-style:solid; border-width:1px;border-radius:6px;} "));
-    row("radius without a number", "$borderRadius: top focus;", QString());
+    row("radius without a number", "$borderRadius: top focus;", QString(), strange("$borderRadius: top focus"));
 
     const auto gradient = [](const char *zero, const char *one) {
         return QStringLiteral("S{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, stop:0 %1, stop:1 %2); } ")
@@ -362,19 +386,52 @@ void tst_Templates::directiveNames()
     QCOMPARE(WThemeUtils::getColorSetNameFromString(WThemeUtils::ColorSetType(7), css), QString());
 }
 
+// Whoever receives a message may have the same template expanded, for another registry at that.
+void tst_Templates::messagesMayComeBack()
+{
+    static WColorSets other;
+    static const QString css = QStringLiteral("$(a.normal) $(nowhere.normal) $textColors: b;");
+    other = spelledSets({"a", "b"}, 200);
+    const QString expected = [] {
+        WarningLog log;
+        return expand(css);
+    }();
+    QtMessageHandler before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {
+        static int depth = 0;
+        if (depth++ == 0) {
+            for (int i = 0; i < 3; ++i)
+                WThemeUtils::parseCSS(QStringLiteral("other"), css, other);
+        }
+        --depth;
+    });
+    const QString found = expand(css);
+    qInstallMessageHandler(before);
+    QCOMPARE(found, expected);
+}
+
 void tst_Templates::timeIsLinear_data()
 {
     QTest::addColumn<QString>("piece");
-    QTest::newRow("plain") << QStringLiteral("QLabel { color: red; } ");
-    QTest::newRow("dollars") << QStringLiteral("$");
-    QTest::newRow("never closed") << QStringLiteral("$(");
-    QTest::newRow("never closed on their lines") << QStringLiteral("$(\n");
-    QTest::newRow("tokens") << QStringLiteral("$(a.normal)");
-    QTest::newRow("directives") << QStringLiteral("$textColors: a;");
-    QTest::newRow("directive heads") << QStringLiteral("$textColors:");
-    QTest::newRow("declarations behind a directive") << QStringLiteral("$borders:all;x:y;");
-    QTest::newRow("braces") << QStringLiteral("{");
-    QTest::newRow("names of one set") << QStringLiteral("$borderColors:b;$(b.checked)");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    const QString none;
+    QTest::newRow("plain") << QStringLiteral("QLabel { color: red; } ") << none << none;
+    QTest::newRow("dollars") << QStringLiteral("$") << none << none;
+    QTest::newRow("never closed") << QStringLiteral("$(") << none << none;
+    QTest::newRow("never closed on their lines") << QStringLiteral("$(\n") << none << none;
+    QTest::newRow("tokens") << QStringLiteral("$(a.normal)") << none << none;
+    QTest::newRow("directives") << QStringLiteral("$textColors: a;") << none << none;
+    QTest::newRow("directive heads") << QStringLiteral("$textColors:") << none << none;
+    QTest::newRow("declarations behind a directive") << QStringLiteral("$borders:all;x:y;") << none << none;
+    QTest::newRow("braces") << QStringLiteral("{") << none << none;
+    QTest::newRow("names of one set") << QStringLiteral("$borderColors:b;$(b.checked)") << none << none;
+    const QString directive = QStringLiteral("$textColors: a;");
+    QTest::newRow("declarations and rules with one token behind")
+        << QStringLiteral("a:b; x{} ") << directive << QStringLiteral("$(a.normal)");
+    QTest::newRow("comments behind blanks")
+        << QStringLiteral("/**/")
+        << directive + QStringLiteral("x{}") + QString(2000000, QLatin1Char(' ')) + QLatin1Char('a') << none;
+    QTest::newRow("nested names") << QStringLiteral("$borders: left, ") << none << none;
 }
 
 // Ten megabytes of everything that could be walked again and again. No clock is read: a quadratic walk over five
@@ -382,7 +439,9 @@ void tst_Templates::timeIsLinear_data()
 void tst_Templates::timeIsLinear()
 {
     QFETCH(QString, piece);
-    const QString css = piece.repeated(5 * 1024 * 1024 / piece.size());
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    const QString css = before + piece.repeated(5 * 1024 * 1024 / piece.size()) + after;
     WarningLog log;
     QVERIFY(!expand(css).isNull());
     QString text = css;

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace {
 
 QJsonObject json(const QByteArray &text)
@@ -235,6 +237,14 @@ void tst_ThemeFiles::everyTypeInEveryPosition()
             load(root, &colors, &sets);
             const bool same = spell(colors) == spell(goodColors) && sets == goodSets;
             const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
+            // What was not touched is there.
+            const auto untouched = [&text](const char *part) {
+                return text.contains(part);
+            };
+            if (untouched(R"({"name":"keep","rgba":{"a":1,"b":3,"g":2,"r":1}}])"))
+                QVERIFY2(colors.count("keep") == 1, text.constData());
+            if (untouched(R"("tokens":{"keep":{"normal":"keep"}))"))
+                QVERIFY2(sets.count("keep") == 1, text.constData());
             // Another value of the right type is no fault: a name, a component, an alias, an empty list of colors, no
             // alias.
             const bool rightType = value.isNull() || value.isString() || value.isDouble() || value.isArray();
@@ -267,12 +277,19 @@ void tst_ThemeFiles::files()
     file.write(bytes);
     file.close();
     WarningLog log;
+    const QString pipe = dir.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+    for (const QString &noFile : {pipe, dir.path()}) {
+        QVERIFY(WThemeUtils::readJsonObject(noFile).isEmpty());
+        QCOMPARE(log.take().size(), 1);
+    }
     QVERIFY(WThemeUtils::readJsonObject(path).isEmpty());
     QStringList warnings = log.take();
     QCOMPARE(warnings.size(), 1);
     QVERIFY2(warnings.first().contains(path) && warnings.first().contains(reason), qPrintable(warnings.first()));
     QVERIFY(WThemeUtils::parseWColorsFromJson(path).empty());
-    QCOMPARE(log.take().size(), 1);
+    QVERIFY(WThemeUtils::parseWColorSetsFromJson(path, {}).empty());
+    QCOMPARE(log.take().size(), 2);
     QVERIFY(WThemeUtils::readJsonObject(dir.filePath(QStringLiteral("none.json"))).isEmpty());
     QCOMPARE(log.take().size(), 1);
 }

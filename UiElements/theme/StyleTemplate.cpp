@@ -23,6 +23,8 @@ constexpr WColorSet::State RuleOrder[] = {WColorSet::Normal,  WColorSet::Checked
 constexpr WColorSet::State RuleOrderFocusHidden[] = {WColorSet::Normal,  WColorSet::Focused, WColorSet::Checked,
                                                      WColorSet::Hovered, WColorSet::Pressed, WColorSet::Disabled};
 
+const char NotUnderstood[] = "WThemeUtils: directive is not understood as a whole:";
+
 const QLatin1String GradientMarker("gradient-background-");
 
 // A message about a text of megabytes helps nobody.
@@ -35,6 +37,46 @@ QString forMessage(const QString &text)
 bool isNameChar(QChar c)
 {
     return c.isLetterOrNumber() || c == QLatin1Char('-') || c == QLatin1Char('_');
+}
+
+// "6", "6px"; anything else is no number. Lengths of no screen are taken as the largest that style sheets can hold.
+bool readPixels(QString word, int *pixels)
+{
+    if (word.endsWith(QLatin1String("px")))
+        word.chop(2);
+    bool ok = false;
+    const int number = word.toInt(&ok);
+    if (!ok || number < 0)
+        return false;
+    *pixels = qMin(number, 0x7fff);
+    return true;
+}
+
+// Where the value of a directive ends that no ";" ends: behind one name, or behind what can be sides, corners and
+// numbers. The word after that may be the selector of a rule.
+int endOfValue(const QString &css, int from, bool isList)
+{
+    static const QStringList listWords {
+        QStringLiteral("left"),        QStringLiteral("top"),         QStringLiteral("right"),
+        QStringLiteral("bottom"),      QStringLiteral("all"),         QStringLiteral("none"),
+        QStringLiteral("focus"),       QStringLiteral("top-left"),    QStringLiteral("top-right"),
+        QStringLiteral("bottom-left"), QStringLiteral("bottom-right")};
+    int end = from;
+    while (true) {
+        int word = end;
+        while (word < css.size() && (css.at(word).isSpace() || (isList && css.at(word) == QLatin1Char(','))))
+            ++word;
+        int wordEnd = word;
+        while (wordEnd < css.size() && isNameChar(css.at(wordEnd)))
+            ++wordEnd;
+        if (!isList)
+            return wordEnd;
+        int pixels = 0;
+        const QString text = css.mid(word, wordEnd - word).toLower();
+        if (!listWords.contains(text) && !readPixels(text, &pixels))
+            return end;
+        end = wordEnd;
+    }
 }
 
 // Removes every occurrence of the directive with its value, also one that the removal of another puts together.
@@ -88,19 +130,6 @@ QStringList words(const QString &value)
     return blanks.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-// "6", "6px"; anything else is no number. Lengths of no screen are taken as the largest that style sheets can hold.
-bool readPixels(QString word, int *pixels)
-{
-    if (word.endsWith(QLatin1String("px")))
-        word.chop(2);
-    bool ok = false;
-    const int number = word.toInt(&ok);
-    if (!ok || number < 0)
-        return false;
-    *pixels = qMin(number, 0x7fff);
-    return true;
-}
-
 struct Run
 {
     int start;
@@ -113,12 +142,15 @@ std::vector<Run> bareDeclarations(const QString &css)
 {
     std::vector<Run> runs;
     int depth = 0;
+    int parentheses = 0;
     int segment = 0;
+    bool blankSoFar = true; // since the segment began
     auto close = [&](int end) {
         int start = segment;
         while (start < end && css.at(start).isSpace())
             ++start;
         segment = end;
+        blankSoFar = true;
         if (start == end || css.at(start) == QLatin1Char('@'))
             return;
         if (!runs.empty() && css.midRef(runs.back().end, start - runs.back().end).trimmed().isEmpty())
@@ -133,20 +165,32 @@ std::vector<Run> bareDeclarations(const QString &css)
             if (end < 0)
                 break;
             i = end + 1;
-            if (depth == 0 && css.midRef(segment, i + 1 - segment).trimmed().startsWith(QLatin1String("/*")))
+            if (depth == 0 && blankSoFar)
                 segment = i + 1;
-        } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
-            const int end = css.indexOf(c, i + 1);
-            if (end < 0)
+            continue;
+        }
+        blankSoFar = blankSoFar && c.isSpace();
+        if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
+            int end = i + 1;
+            while (end < css.size() && css.at(end) != c)
+                end += css.at(end) == QLatin1Char('\\') ? 2 : 1;
+            if (end >= css.size())
                 break;
             i = end;
+        } else if (c == QLatin1Char('(')) {
+            ++parentheses;
+        } else if (c == QLatin1Char(')')) {
+            parentheses = qMax(0, parentheses - 1);
         } else if (c == QLatin1Char('{')) {
             ++depth;
         } else if (c == QLatin1Char('}')) {
             depth = qMax(0, depth - 1);
-            if (depth == 0)
+            parentheses = 0;
+            if (depth == 0) {
                 segment = i + 1;
-        } else if (c == QLatin1Char(';') && depth == 0) {
+                blankSoFar = true;
+            }
+        } else if (c == QLatin1Char(';') && depth == 0 && parentheses == 0) {
             close(i + 1);
         }
     }
@@ -318,17 +362,19 @@ void StyleTemplate::readDirectives(QString rest, int marks)
 
     // What is left of a directive has no ";" and so no value. It is cut out, or Qt would refuse the whole sheet.
     for (const QString &directive : allDirectives()) {
-        const int start = rest.indexOf(directive);
+        const bool hasList = geometryDirectives().contains(directive);
+        int start = rest.indexOf(directive);
         if (start < 0)
             continue;
-        int end = start + directive.size();
-        while (end < rest.size() && rest.at(end).isSpace())
-            ++end;
-        while (end < rest.size() && isNameChar(rest.at(end)))
-            ++end;
-        m_unterminated << rest.mid(start, end - start);
-        m_troubled = true;
-        rest.remove(start, end - start);
+        QString kept = rest.left(start);
+        while (start >= 0) {
+            const int end = endOfValue(rest, start + directive.size(), hasList);
+            if (kept.size() == start) // the first; a text of nothing else need not say it a million times
+                addFault("WThemeUtils: directive without a closing ; is ignored:", rest.mid(start, end - start));
+            start = rest.indexOf(directive, end);
+            kept += rest.midRef(end, (start < 0 ? rest.size() : start) - end);
+        }
+        rest = kept;
     }
 
     readBorders(borders.value, borders.present, width.value);
@@ -390,17 +436,29 @@ void StyleTemplate::readWrittenBorders()
     }
 }
 
+void StyleTemplate::addFault(const char *message, const QString &directive)
+{
+    m_faults.emplace_back(message, directive.trimmed());
+    m_troubled = true;
+}
+
 void StyleTemplate::readBorders(const QString &value, bool present, const QString &width)
 {
     Directives &d = m_directives;
     if (present || !width.isEmpty())
         d.borderWidth = 1;
-    if (!width.isEmpty())
-        readPixels(words(width).value(0), &d.borderWidth);
+    const QStringList widths = words(width);
+    const bool isWidth = widths.size() == 1 && readPixels(widths.first(), &d.borderWidth);
+    if (!isWidth && !widths.isEmpty())
+        addFault(NotUnderstood, geometryDirectives().at(2) + QLatin1Char(' ') + width);
     d.hasBorders = present;
     if (!present)
         return;
     const QStringList sides = words(value);
+    static const QStringList known {QStringLiteral("left"),   QStringLiteral("top"), QStringLiteral("right"),
+                                    QStringLiteral("bottom"), QStringLiteral("all"), QStringLiteral("none")};
+    if (!std::all_of(sides.begin(), sides.end(), [](const QString &side) { return known.contains(side); }))
+        addFault(NotUnderstood, geometryDirectives().at(0) + QLatin1Char(' ') + value);
     const bool all = sides.contains(QLatin1String("all"));
     d.left = all || sides.contains(QLatin1String("left"));
     d.top = all || sides.contains(QLatin1String("top"));
@@ -412,6 +470,7 @@ void StyleTemplate::readBorders(const QString &value, bool present, const QStrin
 void StyleTemplate::readRadius(const QString &value)
 {
     Directives &d = m_directives;
+    bool understood = true;
     bool number = false;
     bool topEdge = false;
     quint8 named = 0;
@@ -426,10 +485,15 @@ void StyleTemplate::readRadius(const QString &value)
         } else if (word == QLatin1String("focus")) {
             d.focusRadius = true;
         } else {
-            for (int i = 0; i < 4; ++i)
-                named |= word == corners[i] ? 1 << i : 0;
+            const auto corner = std::find(std::begin(corners), std::end(corners), word);
+            if (corner == std::end(corners))
+                understood = false;
+            else
+                named = quint8(named | 1 << (corner - std::begin(corners)));
         }
     }
+    if (!understood || (!number && !parts.isEmpty()))
+        addFault(NotUnderstood, geometryDirectives().at(1) + QLatin1Char(' ') + value);
     if (!number) {
         d.focusRadius = false;
         return;
@@ -494,10 +558,15 @@ void StyleTemplate::writeRest(const QString &rest, bool wrapDeclarations)
 {
     int pos = 0;
     std::size_t token = 0;
+    const int none = rest.size();
+    const auto nextMark = [&] {
+        const int at = m_tokens.empty() ? -1 : rest.indexOf(TokenMark, pos);
+        return at < 0 ? none : at;
+    };
+    int mark = nextMark();
     const auto write = [&](int end) {
         while (pos < end) {
-            const int mark = m_tokens.empty() ? -1 : rest.indexOf(TokenMark, pos);
-            const int stop = mark < 0 || mark >= end ? end : mark;
+            const int stop = qMin(mark, end);
             addLiteral(rest.mid(pos, stop - pos));
             pos = stop;
             if (stop == end)
@@ -507,6 +576,7 @@ void StyleTemplate::writeRest(const QString &rest, bool wrapDeclarations)
             addColor(m_tokens[token].set, m_tokens[token].state);
             ++token;
             ++pos;
+            mark = nextMark();
         }
     };
     if (wrapDeclarations) {
@@ -571,10 +641,11 @@ const StyleTemplate::Resolved &StyleTemplate::resolve(const ColorTable &table) c
     return recent;
 }
 
-void StyleTemplate::report(const Resolved &resolved) const
+// The index is a copy: whoever receives the messages may have this template expanded against another table.
+void StyleTemplate::report(std::vector<int> index) const
 {
     const auto reportUnknown = [&](int set) {
-        if (set >= 0 && resolved.index[std::size_t(set)] < 0 && !m_setNames[std::size_t(set)].empty()) {
+        if (set >= 0 && index[std::size_t(set)] < 0 && !m_setNames[std::size_t(set)].empty()) {
             qWarning() << "ColorSet name does not exist! "
                        << forMessage(QString::fromStdString(m_setNames[std::size_t(set)]));
         }
@@ -589,8 +660,8 @@ void StyleTemplate::report(const Resolved &resolved) const
         if (token.state < 0)
             qWarning("WColorSet: color state is invalid!");
     }
-    for (const QString &directive : m_unterminated)
-        qWarning() << "WThemeUtils: directive without a closing ; is ignored:" << forMessage(directive);
+    for (const auto &[message, directive] : m_faults)
+        qWarning() << message << forMessage(directive);
     for (int i = 0; i < 3; ++i) {
         if (i == 0) {
             reportUnknown(m_gradientSet[0]);
@@ -603,8 +674,6 @@ void StyleTemplate::report(const Resolved &resolved) const
 StyleTemplate StyleTemplate::withTokensReplaced(const ColorTable &table) const
 {
     const Resolved &resolved = resolve(table);
-    if (m_troubled || !resolved.complete)
-        report(resolved);
     QString out;
     int pos = 0;
     int from = 0;
@@ -620,6 +689,8 @@ StyleTemplate StyleTemplate::withTokensReplaced(const ColorTable &table) const
         pos = from;
     }
     out += m_source.midRef(pos);
+    if (m_troubled || !resolved.complete)
+        report(resolved.index);
     return StyleTemplate(out, Tokens::Keep);
 }
 
@@ -628,9 +699,6 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
     if (m_twoPasses)
         return withTokensReplaced(table).expand(selector, table);
     const Resolved &resolved = resolve(table);
-    if (m_troubled || !resolved.complete)
-        report(resolved);
-
     QString result(resolved.text.size() + int(resolved.cuts.size()) * selector.size(), Qt::Uninitialized);
     QChar *out = result.data();
     const QChar *const text = resolved.text.constData();
@@ -645,6 +713,8 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
         from = cut;
     }
     std::memcpy(out, text + from, std::size_t(resolved.text.size() - from) * sizeof(QChar));
+    if (m_troubled || !resolved.complete)
+        report(resolved.index);
     return result;
 }
 

@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 /// A style template, read once and written as often as the theme changes.
@@ -93,6 +94,7 @@ private:
 
     QString readTokens(const QString &css);
     void readDirectives(QString rest, int marks);
+    void addFault(const char *message, const QString &directive);
     void readBorders(const QString &value, bool present, const QString &width);
     void readRadius(const QString &value);
     void readWrittenBorders();
@@ -104,7 +106,7 @@ private:
     void addColor(int set, int state);
     void fill(Resolved *target, const ColorTable &table) const;
     const Resolved &resolve(const ColorTable &table) const;
-    void report(const Resolved &resolved) const;
+    void report(std::vector<int> index) const;
 
     QString m_source;
     QString m_text;
@@ -115,7 +117,7 @@ private:
     Directives m_directives;
     int m_directiveSet[3] = {-1, -1, -1};
     int m_gradientSet[2] = {-1, -1};
-    QStringList m_unterminated;
+    std::vector<std::pair<const char *, QString>> m_faults; ///< message and directive
     int m_literalLength = 0, m_colorCount = 0;
     bool m_troubled = false; ///< there is something to report whatever the sets are
     bool m_twoPasses = false;

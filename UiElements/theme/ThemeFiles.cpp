@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -77,23 +78,30 @@ void resolveReferences(const std::unordered_map<std::string, std::string> &refer
 
 } // namespace
 
-QJsonObject ThemeFiles::readObject(const QString &path)
+QJsonObject ThemeFiles::readObject(const QString &path, bool *ok)
 {
+    if (ok)
+        *ok = false;
     const auto refuse = [&path](const QString &reason) {
         qWarning().noquote() << QStringLiteral("WThemeUtils::readJsonObject - %1: %2").arg(path, reason);
         return QJsonObject();
     };
     QFile file(path);
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) // a pipe would keep us waiting
+        return refuse(QStringLiteral("not a file"));
     if (!file.open(QIODevice::ReadOnly))
         return refuse(file.errorString());
-    if (file.size() > MostBytes)
+    const QByteArray bytes = file.read(MostBytes + 1);
+    if (bytes.size() > MostBytes)
         return refuse(QStringLiteral("the file is larger than 64 MiB"));
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
         return refuse(QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset));
     if (!document.isObject())
         return refuse(QStringLiteral("the root is not an object"));
+    if (ok)
+        *ok = true;
     return document.object();
 }
 

@@ -9,7 +9,8 @@ namespace ThemeFiles {
 
 /// The object at the root of the file. A file that cannot be read or is no JSON object is reported once, with its path
 /// and the reason, and gives an empty object.
-QJsonObject readObject(const QString &path);
+/// `ok`, where it is given, tells an empty object of a file from that one.
+QJsonObject readObject(const QString &path, bool *ok = nullptr);
 WPalette readPalette(const QJsonObject &root);
 WColorSets readColorSets(const QJsonObject &root, const WPalette &palette);
 

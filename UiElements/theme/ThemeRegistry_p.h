@@ -15,14 +15,14 @@ public:
         m_sets = std::move(sets);
         m_table.reset();
     }
-    const ColorTable &table() const
+    const std::shared_ptr<const ColorTable> &table() const
     {
         if (!m_table)
-            m_table = std::make_unique<ColorTable>(m_sets);
-        return *m_table;
+            m_table = std::make_shared<ColorTable>(m_sets);
+        return m_table;
     }
 
 private:
     WColorSets m_sets;
-    mutable std::unique_ptr<ColorTable> m_table;
+    mutable std::shared_ptr<const ColorTable> m_table;
 };

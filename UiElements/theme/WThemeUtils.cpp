@@ -11,6 +11,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace {
 
 IWApplication *application()
@@ -44,17 +46,22 @@ Registry registryFor(WThemeUtils::AppThemeType type)
 }
 
 // The sets the caller handed over may be a registry of the application, whose colors stand ready.
-const ColorTable *preparedTable(const WColorSets &sets)
+std::shared_ptr<const ColorTable> preparedTable(const WColorSets &sets)
 {
     const IWApplication *app = application();
     if (!app)
         return nullptr;
     const IWApplicationPrivate *d = IWApplicationPrivate::get(app);
     if (&sets == &d->colorSets.sets())
-        return &d->colorSets.table();
+        return d->colorSets.table();
     if (&sets == &d->invertedColorSets.sets())
-        return &d->invertedColorSets.table();
+        return d->invertedColorSets.table();
     return nullptr;
+}
+
+bool hasAnySide(const WCSSData &data)
+{
+    return data.leftBorder || data.topBorder || data.rightBorder || data.bottomBorder;
 }
 
 WColorSet setNamed(const QString &name, const WColorSets &sets)
@@ -95,13 +102,13 @@ WCSSData expandInto(const StyleTemplate &source, const QString &selector, const 
 
 } // namespace
 
-const ColorTable &WThemeUtilsPrivate::colorTable(WThemeUtils::AppThemeType type)
+std::shared_ptr<const ColorTable> WThemeUtilsPrivate::colorTable(WThemeUtils::AppThemeType type)
 {
     if (const IWApplication *app = application()) {
         const IWApplicationPrivate *d = IWApplicationPrivate::get(app);
         return (registryFor(type) == Registry::App ? d->colorSets : d->invertedColorSets).table();
     }
-    static const ColorTable empty;
+    static const auto empty = std::make_shared<const ColorTable>();
     return empty;
 }
 
@@ -110,14 +117,19 @@ QString WThemeUtilsPrivate::selectorOf(const QWidget *widget)
     if (!widget)
         return QString();
     const QString name = widget->objectName();
+    const QString className =
+        QString::fromLatin1(widget->metaObject()->className()).replace(QLatin1String("::"), QLatin1String("--"));
     if (name.isEmpty())
-        return QString::fromLatin1(widget->metaObject()->className()).replace(QLatin1String("::"), QLatin1String("--"));
-    for (const QChar c : name) {
-        const bool plain = c.unicode() > 127 || c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('-');
-        if (!plain && !name.contains(QLatin1Char('"')) && !name.contains(QLatin1Char('\\')))
-            return QStringLiteral("*[objectName=\"%1\"]").arg(name);
-    }
-    return QLatin1Char('#') + name;
+        return className;
+    const bool plain = std::all_of(name.begin(), name.end(), [](QChar c) {
+        return c.unicode() > 127 || c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('-');
+    });
+    if (plain)
+        return QLatin1Char('#') + name;
+    const bool quotable = std::none_of(name.begin(), name.end(), [](QChar c) {
+        return c == QLatin1Char('"') || c == QLatin1Char('\\') || c < QLatin1Char(' ');
+    });
+    return quotable ? QStringLiteral("*[objectName=\"%1\"]").arg(name) : className;
 }
 
 void WThemeUtilsPrivate::setFocusProperties(QWidget *widget, int radius, int cornerMask)
@@ -130,7 +142,7 @@ void WThemeUtilsPrivate::setFocusProperties(QWidget *widget, int radius, int cor
 
 bool WThemeUtilsPrivate::suppressesBorderColor(const WCSSData &data)
 {
-    return !data.leftBorder && !data.topBorder && !data.rightBorder && !data.bottomBorder && data.hasBorders;
+    return data.hasBorders && !hasAnySide(data);
 }
 
 QJsonObject WThemeUtils::readJsonObject(const QString &path)
@@ -140,8 +152,9 @@ QJsonObject WThemeUtils::readJsonObject(const QString &path)
 
 WPalette WThemeUtils::parseWColorsFromJson(const QString &path)
 {
-    const QJsonObject root = readJsonObject(path);
-    return root.isEmpty() ? WPalette() : parseWColorsFromJson(root);
+    bool ok = false;
+    const QJsonObject root = ThemeFiles::readObject(path, &ok);
+    return ok ? parseWColorsFromJson(root) : WPalette();
 }
 
 WPalette WThemeUtils::parseWColorsFromJson(const QJsonObject &root)
@@ -151,7 +164,9 @@ WPalette WThemeUtils::parseWColorsFromJson(const QJsonObject &root)
 
 WColorSets WThemeUtils::parseWColorSetsFromJson(const QString &path, const WPalette &palette)
 {
-    return parseWColorSetsFromJson(readJsonObject(path), palette);
+    bool ok = false;
+    const QJsonObject root = ThemeFiles::readObject(path, &ok);
+    return ok ? parseWColorSetsFromJson(root, palette) : WColorSets();
 }
 
 WColorSets WThemeUtils::parseWColorSetsFromJson(const QJsonObject &root, const WPalette &palette)
@@ -289,16 +304,15 @@ WCSSData WThemeUtils::parseCSS(QWidget *widget, const QString &css, const WColor
 WCSSData WThemeUtils::parseCSS(const QString &selector, const QString &css, const WColorSets &colorSets)
 {
     const auto source = StyleTemplate::shared(css);
-    if (const ColorTable *table = preparedTable(colorSets))
+    if (const auto table = preparedTable(colorSets))
         return expandInto(*source, selector, colorSets, *table);
     return expandInto(*source, selector, colorSets, ColorTable(colorSets, source->setNames()));
 }
 
 QString WThemeUtils::convertToWCSS(const WCSSData &data)
 {
-    const bool anySide = data.leftBorder || data.topBorder || data.rightBorder || data.bottomBorder;
     QString text;
-    if (anySide || data.hasBorders)
+    if (hasAnySide(data) || data.hasBorders)
         text = StyleTemplate::borderText(data.leftBorder, data.topBorder, data.rightBorder, data.bottomBorder,
                                          data.borderWidth);
     const auto append = [&text](ColorSetType type, const QString &name) {

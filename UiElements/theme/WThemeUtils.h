@@ -38,15 +38,21 @@ class QWidget;
 ///   edge, `$borderRadius: 6 top-left, bottom-left;` are single corners. The word `focus` makes the focus frame drawn
 ///   around the element follow: the widget gets the dynamic properties "focusBorderRadius" (pixels) and
 ///   "rectangularCornerMask" (WCSSData::Corner bits of the corners that stay rectangular).
-/// - Numbers may carry "px". Upper and lower case of sides and corners do not matter; unknown words are ignored.
+/// - Numbers may carry "px". Upper and lower case of sides and corners do not matter; words that mean nothing here are
+///   reported and ignored.
 /// - A background set named "gradient-background-primary", "gradient-background-secondary" or
 ///   "gradient-background-secondary-dialog" is drawn as a gradient between the two sets
 ///   "theme-gradient-primary-0-background" and "theme-gradient-primary-1-background" (likewise "secondary" and
 ///   "dialog-secondary"), in their normal colors; the other states are the colors of the background set itself.
-/// - A directive needs its ";". One without is reported and left out.
+/// - A directive reaches up to the next ";": one that is forgotten swallows what stands before the next. The last one
+/// in
+///   a template without its ";" is reported and left out.
+/// - A set that the theme does not have is reported and written as black, "#ff000000".
+/// - Sides and corners are those of the screen; they are not mirrored in a right-to-left layout.
 ///
 /// The result is the rules of the directives followed by the rest of the template, in which declarations outside any
-/// rule are given the selector of the element. The rules of the states are written so that the state which shows is
+/// rule are given the selector of the element: its object name or, without one, its class, by which elements of that
+/// class inside of it are meant, too. The rules of the states are written so that the state which shows is
 /// the one an icon in the same element shows: disabled before pressed before hovered before focused (where that color
 /// differs from the normal one) before checked.
 class UIELEMENTS_EXPORT WThemeUtils
@@ -114,7 +120,8 @@ public:
 
     /// Expands the template for the widget: its selector is "#" and its object name, or its class name. With a theme
     /// type of its own the widget's registry is used, otherwise the sets that are passed. An object name that no
-    /// selector can spell is addressed as [objectName="..."]; in class names "::" is written "--", as Qt wants it.
+    /// selector can spell is addressed as [objectName="..."], one with quotes in it by its class; in class names "::"
+    /// is written "--", as Qt wants it.
     static WCSSData parseCSS(QWidget *widget, const QString &css, const WColorSets &colorSets);
     static WCSSData parseCSS(const QString &selector, const QString &css, const WColorSets &colorSets);
 
