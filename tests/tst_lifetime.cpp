@@ -104,7 +104,7 @@ void tst_Lifetime::applicationDestroyedFirst()
     }
     QVERIFY(!bus);
     for (QWidget *widget : qAsConst(survivors))
-        QCOMPARE(ThemeSupport::of(widget)->css(), css);
+        QCOMPARE(widget->property("styleSheet").toString(), css);
     qDeleteAll(survivors);
     QCOMPARE(log.take(), QStringList());
 
@@ -116,6 +116,8 @@ void tst_Lifetime::applicationDestroyedFirst()
     frame.setCSS(css);
     app.setColorSets(spelledSets({"a", "b"}, 5));
     QVERIFY(frame.styleSheet().contains(QLatin1String("#ff010105")));
+    frame.setAccessibleRole(QAccessible::Notification);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&frame)->role(), QAccessible::Notification);
 }
 
 void tst_Lifetime::manyWidgets()

@@ -2,6 +2,7 @@
 #include "support/WApplicationMain.h"
 #include "support/WarningLog.h"
 
+#include <QScreen>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
@@ -13,6 +14,8 @@ class tst_PlainWidgets : public QObject
 private Q_SLOTS:
     void dialogTellsOfClosing();
     void listTellsWhatIsInView();
+    void listInOtherFlows_data();
+    void listInOtherFlows();
     void listTellsOfKeysAndWidth();
     void progressBarGeometry();
     void sliderFillsFromItsStart_data();
@@ -81,6 +84,52 @@ void tst_PlainWidgets::listTellsWhatIsInView()
     QTRY_VERIFY(updated.size() >= 1);
     QCoreApplication::processEvents();
     QCOMPARE(updated.size(), 1);
+}
+
+void tst_PlainWidgets::listInOtherFlows_data()
+{
+    QTest::addColumn<QListView::Flow>("flow");
+    QTest::addColumn<bool>("icons");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("lying") << QListView::LeftToRight << false << Qt::LeftToRight;
+    QTest::newRow("lying, right to left") << QListView::LeftToRight << false << Qt::RightToLeft;
+    QTest::newRow("upright with gaps") << QListView::TopToBottom << false << Qt::LeftToRight;
+    QTest::newRow("icons") << QListView::LeftToRight << true << Qt::LeftToRight;
+}
+
+// What is announced is what intersects the viewport, wherever the items stand.
+void tst_PlainWidgets::listInOtherFlows()
+{
+    QFETCH(QListView::Flow, flow);
+    QFETCH(bool, icons);
+    QFETCH(Qt::LayoutDirection, direction);
+    WListWidget list;
+    list.setLayoutDirection(direction);
+    list.setViewMode(icons ? QListView::IconMode : QListView::ListMode);
+    list.setFlow(flow);
+    list.setSpacing(6);
+    for (int i = 0; i < 200; ++i) {
+        auto *item = new QListWidgetItem(QString::number(i), &list);
+        item->setSizeHint(QSize(40, 30));
+        item->setHidden(i % 5 == 0);
+    }
+    QSet<int> announced;
+    connect(&list, &WListWidget::updateItemWidget, this, [&](QListWidgetItem *item) { announced << list.row(item); });
+    list.resize(220, 160);
+    list.show();
+    const auto inView = [&list] {
+        QSet<int> rows;
+        for (int i = 0; i < list.count(); ++i) {
+            if (!list.isRowHidden(i) && list.visualItemRect(list.item(i)).intersects(list.viewport()->rect()))
+                rows << i;
+        }
+        return rows;
+    };
+    QTRY_VERIFY(!announced.isEmpty() && announced == inView());
+    const QSet<int> first = announced;
+    announced.clear();
+    list.scrollToItem(list.item(103), QAbstractItemView::PositionAtCenter);
+    QTRY_VERIFY(!announced.isEmpty() && announced == inView() - first);
 }
 
 void tst_PlainWidgets::listTellsOfKeysAndWidth()
@@ -231,6 +280,21 @@ void tst_PlainWidgets::pixmap()
 
 void tst_PlainWidgets::textEditFocusFrame()
 {
+    // What stands on the screen, compared with what a fresh painting would put there.
+    const auto stale = [](QWidget &widget) {
+        QCoreApplication::processEvents();
+        QWidget *window = widget.window();
+        const QImage shown =
+            window->screen()->grabWindow(window->winId()).toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage fresh = window->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QRect area(widget.mapTo(window, QPoint()), widget.size());
+        int pixels = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x)
+                pixels += shown.pixel(x, y) != fresh.pixel(x, y);
+        }
+        return pixels;
+    };
     QWidget window;
     WTextEdit edit(&window);
     WTextEdit other(&window);
@@ -250,6 +314,12 @@ void tst_PlainWidgets::textEditFocusFrame()
     const QPoint onFrame(with.width() / 2, 0);
     QVERIFY(with.pixelColor(onFrame) != without.pixelColor(onFrame));
     QCOMPARE(with.pixelColor(with.rect().center()), without.pixelColor(with.rect().center()));
+    QCOMPARE(stale(edit), 0);
+    edit.setPlainText(QStringLiteral("line\n").repeated(50));
+    edit.verticalScrollBar()->setValue(20);
+    QCOMPARE(stale(edit), 0);
+    other.setFocus();
+    QCOMPARE(stale(edit), 0);
 }
 
 W_TEST_MAIN(tst_PlainWidgets)

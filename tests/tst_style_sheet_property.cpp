@@ -37,6 +37,7 @@ enum Situation {
     ForeignUnpolishAndPolish,
     ForeignSheet,
     LayoutAsksBeforeShow,
+    EmptiedThenAncestorSheet,
 };
 
 static const char *const situations[] {
@@ -51,6 +52,7 @@ static const char *const situations[] {
     "unpolished and polished from outside",
     "sheet set from outside",
     "layout asks before show",
+    "emptied, then ancestor gets a sheet",
 };
 
 static const QString css =
@@ -87,7 +89,7 @@ void tst_StyleSheetProperty::lookAndTemplate_data()
     QTest::addColumn<MakeWidget>("make");
     QTest::addColumn<int>("situation");
     forEachThemedClass([](const char *name, const MakeWidget &make) {
-        for (int i = SetBeforeShow; i <= LayoutAsksBeforeShow; ++i)
+        for (int i = SetBeforeShow; i <= EmptiedThenAncestorSheet; ++i)
             QTest::addRow("%s, %s", name, situations[i]) << make << i;
     });
 }
@@ -139,6 +141,13 @@ void tst_StyleSheetProperty::lookAndTemplate()
         widget->style()->polish(widget);
         break;
     case ForeignSheet: widget->setStyleSheet(widget->styleSheet() + QLatin1Char(' ')); break;
+    case EmptiedThenAncestorSheet:
+        widget->setProperty("styleSheet", QString()); // keeps the look
+        box->setStyleSheet(QStringLiteral("QLabel { color: red }"));
+        QVERIFY(share(widget, Qt::green) > 0.3);
+        QCOMPARE(ThemeSupport::of(widget)->css(), QString());
+        widget->setProperty("styleSheet", css);
+        break;
     default: break;
     }
     QVERIFY2(share(widget, Qt::green) > 0.3, qPrintable(QString::number(share(widget, Qt::green))));

@@ -97,7 +97,7 @@ void tst_ThemedWidgets::styleTemplate()
     QVERIFY(widget->setProperty("styleSheet", QString()));
     QCOMPARE(css.count(), 5);
     QCOMPARE(sheetOf(widget.data()), before);
-    QCOMPARE(widget->property("styleSheet").toString(), QString());
+    QCOMPARE(ThemeSupport::of(widget.data())->css(), QString());
 }
 
 void tst_ThemedWidgets::themeType()
@@ -178,6 +178,14 @@ void tst_ThemedWidgets::reparenting()
     dark.setThemeType(QStringLiteral("light"));
     QCOMPARE(css.count(), 1);
     QCOMPARE(colorOf(widget), QStringLiteral("ff000001"));
+
+    // Without a template there is nothing to expand, but somebody below or an icon may depend on it.
+    widget->setParent(nullptr);
+    QWidget *bare = make(&dark);
+    bare->setParent(&dark, Qt::Widget);
+    QSignalSpy bareType(bare, SIGNAL(themeTypeChanged()));
+    bare->setParent(&plainWindow, Qt::Widget);
+    QCOMPARE(bareType.count(), 1);
 
     // Moved inside something plain, of which it is told nothing, it is right when it is seen.
     auto *plain = new QWidget(&plainWindow);
@@ -374,6 +382,15 @@ void tst_ThemedWidgets::focusProperties()
     frame.setCSS(QStringLiteral("$borderRadius: 8;"));
     QVERIFY(!frame.property("focusBorderRadius").isValid());
 
+    for (const char *name : {"a\"b", "a\\b", "two\nlines", "1.5", "#x{}", "::y"}) {
+        WarningLog log;
+        WFrame odd;
+        odd.setObjectName(QString::fromLatin1(name));
+        odd.setCSS(QStringLiteral("$backgroundColors: b;"));
+        odd.ensurePolished();
+        QCOMPARE(odd.palette().color(QPalette::Window), QColor(1, 0, 1));
+        QCOMPARE(log.take(), QStringList());
+    }
     QWidget plain;
     plain.setObjectName(QStringLiteral("not a \u00e9 selector"));
     const WCSSData data = WThemeUtils::parseCSS(&plain, QStringLiteral("$borderRadius: 3 focus; $textColors: a;"),

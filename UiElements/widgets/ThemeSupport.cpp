@@ -98,6 +98,7 @@ public:
 
     void followParent();
     void announceThemeType();
+    void noticeThemeType();
     void take(const StyleTemplate::Directives &directives);
 
     QWidget *const widget;
@@ -158,6 +159,7 @@ void ThemeSupport::attach()
                      SLOT(onLayoutDirectionChanged()));
     QObject::connect(d->widget, SIGNAL(themeTypeChanged()), d->widget, SLOT(onThemeChanged()));
     d->followParent();
+    d->shownType = WThemeUtils::getThemeTypeOfWidget(d->widget);
     applyFont();
 }
 
@@ -196,13 +198,12 @@ void ThemeSupport::follow(QEvent *event)
         if (d->drawsOwnBox)
             setDrawsOwnBox();
         d->followParent();
-        if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
-            d->hooks->onParentThemeTypeChanged(d->widget);
+        d->noticeThemeType();
         break;
     case QEvent::Show:
         // A plain ancestor may have moved to another window, of which nothing below it is told.
-        if (d->source && d->shownType != WThemeUtils::getThemeTypeOfWidget(d->widget))
-            d->hooks->onThemeChanged(d->widget);
+        if (d->attached)
+            d->noticeThemeType();
         break;
     default: break;
     }
@@ -234,13 +235,14 @@ void ThemeSupport::refresh()
     if (!d->source)
         return;
     d->shownType = WThemeUtils::getThemeTypeOfWidget(d->widget);
-    const ColorTable &table = WThemeUtilsPrivate::colorTable(d->shownType);
+    // Held: whoever receives the messages may replace the application's color sets.
+    const std::shared_ptr<const ColorTable> table = WThemeUtilsPrivate::colorTable(d->shownType);
     const auto source = d->source; // a slot may set another template meanwhile
     std::optional<StyleTemplate> replaced;
     if (source->needsTwoPasses())
-        replaced.emplace(source->withTokensReplaced(table));
+        replaced.emplace(source->withTokensReplaced(*table));
     const StyleTemplate &final = replaced ? *replaced : *source;
-    const QString text = final.expand(WThemeUtilsPrivate::selectorOf(d->widget), table);
+    const QString text = final.expand(WThemeUtilsPrivate::selectorOf(d->widget), *table);
     d->take(final.directives());
     if (text.isEmpty())
         return;
@@ -282,8 +284,12 @@ QString ThemeSupport::styleSheetProperty() const
         ++expandedTextsRead;
         return d->widget->styleSheet();
     }
-    if (d->widget->styleSheet().isEmpty() || d->css.isEmpty())
+    const QString sheet = d->widget->styleSheet();
+    if (sheet.isEmpty() || !QCoreApplication::instance())
         return d->css;
+    // The look outlives an emptied template, and to the engine an empty answer would mean that there is no sheet.
+    if (d->css.isEmpty())
+        return sheet;
     const quint64 before = expandedTextsRead;
     {
         const EngineReads reading;
@@ -291,7 +297,7 @@ QString ThemeSupport::styleSheetProperty() const
     }
     // Nothing was read: the sheet is parsed already, or the engine, busy elsewhere, would not look at this widget.
     const bool parsed = expandedTextsRead != before || !EngineProbe::engineIsAtWork();
-    return parsed ? d->css : d->widget->styleSheet();
+    return parsed ? d->css : sheet;
 }
 
 QString ThemeSupport::colorSetName(WThemeUtils::ColorSetType type) const
@@ -342,6 +348,7 @@ void ThemeSupport::onParentThemeTypeChanged()
 
 void ThemeSupport::Private::announceThemeType()
 {
+    shownType = WThemeUtils::getThemeTypeOfWidget(widget);
     std::vector<QPointer<QWidget>> below;
     collectBelowPlain(widget, false, &below);
     const QPointer<QWidget> self(widget);
@@ -351,6 +358,13 @@ void ThemeSupport::Private::announceThemeType()
         if (support)
             support->d->hooks->onParentThemeTypeChanged(child);
     }
+}
+
+// What is inherited may have changed without a word from above.
+void ThemeSupport::Private::noticeThemeType()
+{
+    if (shownType != WThemeUtils::getThemeTypeOfWidget(widget))
+        hooks->onParentThemeTypeChanged(widget);
 }
 
 QAccessible::Role ThemeSupport::accessibleRole() const

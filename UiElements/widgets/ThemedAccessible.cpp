@@ -21,11 +21,8 @@ const ThemeSupport *supportOf(QObject *object)
 
 void ThemedAccessible::install()
 {
-    static const bool installed = [] {
-        QAccessible::installFactory(&ThemedAccessible::create);
-        return true;
-    }();
-    Q_UNUSED(installed)
+    // Qt knows a factory that it has already, and forgets all of them with the application object.
+    QAccessible::installFactory(&ThemedAccessible::create);
 }
 
 void ThemedAccessible::replaceEarlyInterface(QObject *widget)

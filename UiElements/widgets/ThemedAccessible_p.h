@@ -9,7 +9,7 @@
 class ThemedAccessible : public QAccessibleInterface
 {
 public:
-    /// From the first call on, themed widgets get this interface.
+    /// From the first call in the life of an application object on, themed widgets get this interface.
     static void install();
     /// Makes sure of that for a widget whose Qt class announced something to accessibility in its constructor, when the
     /// widget was not yet a themed one.

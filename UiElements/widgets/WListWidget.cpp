@@ -92,21 +92,46 @@ void WListWidget::scheduleVisibleUpdate()
     QTimer::singleShot(0, this, [this] { updateVisible(); });
 }
 
+// The first row that reaches into the area, by halving; the rows stand in order in one line.
+int WListWidget::firstRowInView(const QRect &area) const
+{
+    const auto isBefore = [&](int row) {
+        const QRect rect = visualItemRect(item(row));
+        if (flow() == TopToBottom)
+            return rect.bottom() < area.top();
+        return isRightToLeft() ? rect.left() > area.right() : rect.right() < area.left();
+    };
+    int low = 0;
+    int high = count();
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        int shown = middle; // a hidden row has no place
+        while (shown < high && isRowHidden(shown))
+            ++shown;
+        if (shown < high && isBefore(shown))
+            low = shown + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
 void WListWidget::updateVisible()
 {
     m_scheduled = false;
     QVector<QListWidgetItem *> visible;
     const QRect area = viewport()->rect();
     if (isVisible() && !area.isEmpty()) {
-        const QModelIndex first = indexAt(QPoint(area.width() / 2, 0));
-        for (int row = qMax(0, first.row()); row < count(); ++row) {
+        // In one line of items, upright or lying, those behind the edge need not be looked at.
+        const bool oneLine = viewMode() == ListMode && !isWrapping();
+        for (int row = oneLine ? firstRowInView(area) : 0; row < count(); ++row) {
             if (isRowHidden(row))
                 continue;
             const QRect rect = visualItemRect(item(row));
-            if (rect.top() > area.bottom())
-                break;
             if (rect.intersects(area))
                 visible << item(row);
+            else if (oneLine)
+                break;
         }
     }
     if (visible == m_visible && !m_removed)

@@ -46,6 +46,7 @@ protected:
 private:
     void scheduleVisibleUpdate();
     void updateVisible();
+    int firstRowInView(const QRect &area) const;
 
     QVector<QListWidgetItem *> m_visible; // none of a removed item: see rowsAboutToBeRemoved()
     int m_itemWidth = -1;

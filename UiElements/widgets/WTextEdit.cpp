@@ -32,3 +32,23 @@ void WTextEdit::paintEvent(QPaintEvent *event)
     }
     QTextEdit::paintEvent(event);
 }
+
+// Qt repaints the cursor alone, and scrolls what stands there: the frame is to come, stay in its place and go.
+void WTextEdit::focusInEvent(QFocusEvent *event)
+{
+    QTextEdit::focusInEvent(event);
+    viewport()->update();
+}
+
+void WTextEdit::focusOutEvent(QFocusEvent *event)
+{
+    QTextEdit::focusOutEvent(event);
+    viewport()->update();
+}
+
+void WTextEdit::scrollContentsBy(int dx, int dy)
+{
+    QTextEdit::scrollContentsBy(dx, dy);
+    if (hasFocus())
+        viewport()->update();
+}
