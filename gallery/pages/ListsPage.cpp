@@ -98,7 +98,7 @@ WTreeView *makeTree(bool wide)
 } // namespace
 
 ListsPage::ListsPage()
-    : Page(tr("Lists and trees"), tr("The second row of each view has the states; checked is selected."))
+    : Page(tr("Lists and trees"), tr("One row of each view has the states; checked is selected."))
 {
     addCard(new StateCard(QStringLiteral("WListView"), tr("Shows a model."), makeListView));
     addCard(new StateCard(QStringLiteral("WListWidget"),

@@ -45,7 +45,8 @@ QVector<Example> examples()
                         "$borderRadius: 12 top-right; padding: 8px;"),
          TemplatesPage::tr("Borders and radii name the sides and corners that they apply to.")},
         {TemplatesPage::tr("A gradient"),
-         QStringLiteral("$backgroundColors: gradient-background-primary;\n"
+         QStringLiteral("$backgroundColors: gradient-background-primary; $borders: all;\n"
+                        "$borderColors: outline-secondary;\n"
                         "$textColors: text-primary;\n"
                         "$borderRadius: 12; padding: 8px;"),
          TemplatesPage::tr("Three names stand for gradients between two sets of the theme.")},
