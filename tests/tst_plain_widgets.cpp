@@ -316,6 +316,7 @@ void tst_PlainWidgets::textEditFocusFrame()
     QCOMPARE(with.pixelColor(with.rect().center()), without.pixelColor(with.rect().center()));
     QCOMPARE(stale(edit), 0);
     edit.setPlainText(QStringLiteral("line\n").repeated(50));
+    QCoreApplication::processEvents();
     edit.verticalScrollBar()->setValue(20);
     QCOMPARE(stale(edit), 0);
     other.setFocus();

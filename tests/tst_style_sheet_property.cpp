@@ -179,6 +179,17 @@ void tst_StyleSheetProperty::childrenAskFirst()
     outer.resize(200, 100);
     outer.show();
     QVERIFY(share(&outer, Qt::green) > 0.8);
+    // The style of a plain child with a sheet is at work, refuses every other, and looks for the sheet of its parent.
+    WFrame parent;
+    parent.setObjectName(QStringLiteral("target"));
+    parent.setCSS(css);
+    auto *plain = new QLabel(QStringLiteral("plain"), &parent);
+    plain->setStyleSheet(QStringLiteral("QLabel { color: red }"));
+    plain->sizeHint();
+    parent.resize(200, 100);
+    parent.show();
+    QVERIFY(share(&parent, Qt::green) > 0.5);
+    QVERIFY(share(&outer, Qt::green) > 0.8);
     QApplication::setStyle(QStringLiteral("Windows"));
     qApp->setStyleSheet(QStringLiteral("QLabel { color: blue }"));
     outer.setFont(QFont(QStringLiteral("Consolas"), 20));

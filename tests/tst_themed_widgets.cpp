@@ -36,6 +36,7 @@ private Q_SLOTS:
     void metaObject_data();
     void metaObject();
     void focusProperties();
+    void subclassesAnswerThemeChanges();
     void slotsThatChangeThings();
 };
 
@@ -402,6 +403,32 @@ void tst_ThemedWidgets::focusProperties()
     QCOMPARE(plain.palette().color(QPalette::WindowText), QColor(0, 0, 1));
     QCOMPARE(WThemeUtils::parseCSS(static_cast<QWidget *>(nullptr), QStringLiteral("x{}"), {}).styleSheet,
              QStringLiteral("x{}"));
+}
+
+// A class of the host may do more in onThemeChanged() than the template does.
+void tst_ThemedWidgets::subclassesAnswerThemeChanges()
+{
+    class Picture : public WFrame
+    {
+    public:
+        void onThemeChanged() override
+        {
+            ++changes;
+            WFrame::onThemeChanged();
+        }
+        int changes = 0;
+    };
+    WFrame window;
+    Picture picture;
+    picture.setParent(&window);
+    WApplication::find()->setColorSets(spelledSets({"a"}));
+    QCOMPARE(picture.changes, 1);
+    WApplication::find()->setIsDarkTheme(true);
+    QCOMPARE(picture.changes, 2);
+    window.setThemeType(QStringLiteral("light"));
+    QCOMPARE(picture.changes, 3);
+    picture.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(picture.changes, 4);
 }
 
 // Slots that destroy, re-parent or restyle in the middle of a pass over all widgets.
