@@ -44,6 +44,7 @@ QAccessibleInterface *ThemedAccessible::create(const QString &, QObject *object)
 
 ThemedAccessible::ThemedAccessible(QAccessibleInterface *inner)
     : m_inner(inner)
+    , m_object(inner->object())
     , m_innerId(QAccessible::uniqueId(inner))
 {
 }
@@ -60,7 +61,7 @@ bool ThemedAccessible::isValid() const
 
 QObject *ThemedAccessible::object() const
 {
-    return m_inner->object();
+    return m_object;
 }
 
 QWindow *ThemedAccessible::window() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAccessible>
+#include <QPointer>
 
 /// Adds the role and the id of a themed widget to the accessible interface that Qt made for it.
 ///
@@ -41,6 +42,8 @@ private:
     explicit ThemedAccessible(QAccessibleInterface *inner);
     static QAccessibleInterface *create(const QString &className, QObject *object);
 
-    QAccessibleInterface *const m_inner; // Qt's registry owns it
+    // Qt's registry owns it, and when it is emptied at the end of the program may delete it before this one.
+    QAccessibleInterface *const m_inner;
+    const QPointer<QObject> m_object;
     const QAccessible::Id m_innerId;
 };
