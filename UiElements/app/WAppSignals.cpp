@@ -3,10 +3,21 @@
 #include <UiElements/app/WApplication.h>
 
 #include <QDebug>
+#include <QPoint>
+#include <QRect>
+#include <QWidget>
 
 WAppSignals::WAppSignals(QObject *parent)
     : QObject(parent)
 {
+    // The host's types register themselves (see HostTypes.h), and what is not here Qt knows.
+    qRegisterMetaType<std::string>();
+    qRegisterMetaType<std::vector<std::string>>();
+    qRegisterMetaType<Qt::ArrowType>();
+    qRegisterMetaType<QWindow::Visibility>();
+    qRegisterMetaType<QWindow *>();
+    qRegisterMetaType<QPointer<QWidget>>();
+    qRegisterMetaType<WKeySequenceLookup::Shortcut>();
 }
 
 WAppSignals *WAppSignals::get()

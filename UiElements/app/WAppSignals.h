@@ -1,18 +1,34 @@
 #pragma once
 
+#include <UiElements/app/HostTypes.h>
+#include <UiElements/keyboard/WKeySequenceLookup.h>
 #include <UiElements/uielements_export.h>
 
 #include <QKeySequence>
+#include <QList>
 #include <QMetaType>
 #include <QObject>
+#include <QPointer>
+#include <QVariant>
+#include <QVector>
+#include <QWindow>
 
 #include <string>
 #include <vector>
 
+class QPoint;
+class QPointF;
+class QRect;
+class QRectF;
+class QWidget;
+
 /// The application-wide signal bus: any element asks on it, and whoever handles the request connects to it.
 ///
 /// The application object creates the one instance as its child; it lives as long as the application object. Emitting
-/// a signal that nobody listens to is not an error. Texts passed as std::string are UTF-8.
+/// a signal that nobody listens to is not an error. Texts passed as std::string are UTF-8. Every parameter type can be
+/// queued, except the QRect that a handler of popupMeetingDetailPage() changes for the caller.
+///
+/// The types that belong to the host program are in HostTypes.h, which says how a host puts its own in their place.
 class UIELEMENTS_EXPORT WAppSignals : public QObject
 {
     Q_OBJECT
@@ -105,6 +121,186 @@ Q_SIGNALS:
     void addToContact(std::string const &);
     void createNewContact(std::string const &);
     void addToExistingContact(std::string const &);
+
+    // Spaces and conversations
+    void copySpaceMetaDataToClipboard();
+    void createSpace();
+    void createPublicSpace();
+    void createSpaceWithParticipants(std::vector<std::string> const &);
+    void focusMainConversation();
+    void focusMainInputBox();
+    void forwardMessageRequested(QString const &, QString const &, QString const &);
+    void replyPrivatelyRequested(QString const &, QString const &, QString const &);
+    void navigateToMessage(std::string const &, std::string const &);
+    void navigateToSpace(flarq::guid const &);
+    void replyToMessage(std::string const &, std::string const &);
+    void openAttachFilePopover();
+    void openGiphyPopover();
+    void popoutConversation(std::string const &, std::string const &, std::string const &, std::string const &);
+    void selectAddPeopleTab();
+    void selectPrevSpaceInHistory();
+    void selectNextSpaceInHistory();
+    void selectPersonalInsightsTab();
+    void smsChatAction(std::string const &);
+    void showAddPeopleView(std::string const &);
+    void showSpaceInformationCard(flarq::guid const &, QWidget *);
+    void showSpaceInformationCardFromPoint(flarq::guid const &, QPointF const &, QWindow *);
+    void showSpaceInformationCardFromRect(flarq::guid const &, QRectF const &, QWindow *, bool);
+    void showSpaceInformationCardFromQmlRect(QString const &, QRectF const &, QWindow *, bool);
+    void showMeetingRoomCard(flarq::guid const &, QRectF const &, bool, QWindow *);
+    void showMigrationCoachmark(std::string const &);
+    void showMeetingCoachmarks(std::string const &);
+    void peekSpaceRequested(flarq::guid const &);
+    void peekSpaceFromContactCard(flarq::guid const &);
+    void spaceSettingsRequested(QString const &);
+    void attachFile();
+    void addLink();
+    void addGif();
+    void addBitmoji();
+    void leaveSpace();
+    void startAudioCall();
+    void startVideoCall();
+    void showMultiCall();
+    void zoomIn();
+    void zoomOut();
+    void toggleMarkdown();
+    void createConversation(OneToOneParticipantInfo const &);
+    void navigateToTeam(flarq::guid const &);
+    void navigateToExplorePublicSpaces(bool, std::string const &);
+    void closeAllConversationsFormPopouts();
+    void closeQmlPopups();
+
+    // Search
+    void openGlobalSearch();
+    void openSearchInSpace(std::string const &);
+    void openSearchInActiveSpace();
+    void openFromSearch(std::string const &);
+    void advancedSearch();
+
+    // Navigation tabs
+    void selectCallingTab();
+    void selectContactsTab();
+    void selectMeetingsTab();
+    void selectMessagingTab();
+    void selectTeamsTab();
+    void selectVoicemailTab();
+    void selectWhiteboardsTab();
+    void toggleAssistantPanel();
+
+    // Whiteboards and files
+    void createWhiteboard();
+    void openEcmFile(std::string const &, std::string const &, std::string const &);
+    void openFile(std::string const &, std::string const &, int, std::string const &, bool);
+    void editWhiteboard(std::string const &, std::string const &);
+    void startECMAuthentication(commonHead::viewModels::ECMProvider, std::string const &, std::string const &, int);
+
+    // Space list and filters
+    void moveDownSpaceList();
+    void moveUpSpaceList();
+    void selectAllSpacesTab();
+    void selectDirectMessagesTab();
+    void selectDraftsFilter();
+    void selectFavouritesFilter();
+    void selectFlagsFilter();
+    void selectNotificationsFilter();
+    void selectUnreadFilter();
+
+    // Meetings and calls
+    void preferenceMeetingSettingChanged();
+    void scheduleMeeting(QVariant const &);
+    void editGoogleMeeting(QVariant const &);
+    void openBreakoutManage(QMap<QString, QVariant> const &);
+    void answerCall();
+    void endCall();
+    void holdResumeCall();
+    void toggleAudioMute();
+    void toggleVideoMute();
+    void assistantViewVisibleChanged(bool);
+    void joinAMeeting();
+    void displayMeetingDetailsPopup(QString const &, QString const &, QPoint const &);
+    void joinAnOngoingCall(QString const &);
+    void switchBetweenFloatingWindows();
+    void requestJoinMeetingUri(QString const &, QString const &);
+    void switchSmartAudioMode();
+    void highlightToCall();
+    void inMeetingChatScreenReaderToggled();
+
+    // Application windows, dialogs and coachmarks
+    void showUserConsentCoachMark(QString const &);
+    void reloadAllQmlViews();
+    void showDevToolsDialog();
+    void openHelpPopUp();
+    void openSettingsWindow();
+    void openMakeCallPanel();
+    void startMigration();
+    void showWhatsNewRequested();
+    void showEditProfileDialog();
+    void showKeyboardShortcutsDialog();
+    void showStatusSelectorDialog();
+    void showInviteToZentroDialog();
+    void showSetupZentroDialog();
+    void openApplicationMenuItem(ApplicationMenuItem);
+    void openConnectDevicePopUp();
+    void showChattleOrZentroMigrationFlow(bool);
+    void shareMeetingContainer(QString const &, QVariant const &);
+    void showMeetingContainerRecording(QString const &, QString const &);
+    void showMeetingContainerDetailsInBrowser(QString const &);
+    void popoutInMeetingChatContainer(QString const &, QVariant const &);
+
+    // Phone widget and call windows
+    void phoneWidgetEnableChanged(bool);
+    void setPhoneWidgetVisibility(QWindow::Visibility, commonHead::viewModels::SetWidgetVisibilityOrigin);
+    void phoneWidgetVisibilityChanged(QWindow::Visibility);
+    void closePhoneWidget(commonHead::viewModels::SetWidgetVisibilityOrigin);
+    void phoneWidgetClosed();
+    void showCallWindowMain(flarq::guid const &, commonHead::viewModels::CallControlMainItemType, bool);
+    void showCallWindowMore(flarq::guid const &, commonHead::viewModels::CallControlMenuItemType);
+
+    // Options, emergency address and diagnostics windows
+    void openOptionsDialog(int, std::string const &);
+    void scrollToHighlightToCallShortcutItem();
+    void openE911AddressDialog(QRect const &, bool);
+    void showQelviaWindow();
+    void showCallAssistantWindow(commonHead::viewModels::ShowCallAssistantWindowOrigin);
+    void showDebugWindow();
+    void developerOptionClicked();
+
+    // Sharing, annotation and whiteboard creation
+    void startLocalShare(flarq::guid const &, QWidget *, commonHead::viewModels::ShareSourcesSelectionWindowTab);
+    void setShareControlBarMaxButtonChecked(bool);
+    void setRevertToClassicShareChecked();
+    void annotationCreated();
+    void createWhiteboardWithInfo(uiWhiteboard::CreateWhiteboardInfo const &);
+    void whiteboardsButtonclicked(uiWhiteboard::CreateWhiteboardInfo const &);
+    void createWhiteboardConfirm(bool, uiWhiteboard::CreateWhiteboardInfo const &);
+    void assignHostRequested(std::string, QWidget *);
+    void startShareShortcut(flarq::guid const &);
+    void shareContentShortcut();
+    void stopSharingShortcut();
+    void pauseResumeSharing();
+    void toggleRemoteDesktopControlShortcut();
+    void shareFileVideoShortcut();
+    void startRemoteDesktopControlShortcut(flarq::guid const &);
+    void startAnnotateShortcut();
+    void stopAnnotateShortcut();
+    void toggleShowFloatingWindowShortcut();
+
+    // Panels, exit, calendar, audio and reactions
+    void toggleChatPanel();
+    void showVDIUpgradeCheckerWindow();
+    void expandTabSelectorWidget();
+    void toggleCallDialogShortcuts(bool);
+    void aboutToExit();
+    void showCalendarSelectorWidget(commonHead::viewModels::OAuthProvider);
+    void openAudioDumpDialog();
+    void audioDumpStatusChanged(bool);
+    void showDiagnosticsDetails();
+    void popupMeetingDetailPage(QWidget *, std::string const &, std::string const &, std::string const &,
+                                std::string const &, std::string const &, QRect &, int, bool);
+    void audioErrorStatusChanged(commonHead::viewModels::AudioDeviceAvailableStatus const &);
+    void appMenuItemSelected(QVariant const &, QPointer<QWidget>);
+    void openMeetingReactionsPanel();
+    void sendMeetingReaction(WKeySequenceLookup::Shortcut);
 };
 
 Q_DECLARE_METATYPE(WAppSignals::Shortcut)

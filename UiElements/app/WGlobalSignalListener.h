@@ -1,11 +1,12 @@
 #pragma once
 
+#include <UiElements/keyboard/WKeySequenceLookup.h>
 #include <UiElements/uielements_export.h>
 
 #include <QObject>
 #include <QString>
 
-/// The second, small bus: what tools and developers announce to everybody.
+/// The second, small bus: the key sequences that views handle themselves, and what developers' tools announce.
 ///
 /// The application object creates the one instance as its child.
 class UIELEMENTS_EXPORT WGlobalSignalListener : public QObject
@@ -19,5 +20,6 @@ public:
     static WGlobalSignalListener *get();
 
 Q_SIGNALS:
+    void shortcutActivated(WKeySequenceLookup::Shortcut);
     void setDevToolsThemeMode(QString const &);
 };

@@ -1,0 +1,6 @@
+#include <UiElements/keyboard/WKeySequenceLookup.h>
+
+WKeySequenceLookup::WKeySequenceLookup(QObject *parent)
+    : QObject(parent)
+{
+}
