@@ -2,6 +2,7 @@
 
 #include <UiElements/app/HostTypes.h>
 #include <UiElements/keyboard/WKeySequenceLookup.h>
+#include <UiElements/keyboard/WShortcut.h>
 #include <UiElements/uielements_export.h>
 
 #include <QKeySequence>
@@ -105,9 +106,42 @@ public:
     /// The bus of the application object. Without one "Unable to find WApplication" is logged and null returned.
     static WAppSignals *get();
 
+    /// Creates the shortcuts of these groups on the main window and remembers it. That is done once: while a window is
+    /// remembered, another call is refused, with the same window too. A window that dies takes its shortcuts along, and
+    /// the next one may be registered.
+    void registerShortcuts(QWidget *mainWindow, WShortcut::ShortcutGroups groups);
+    /// The same without that check, for groups that come later. An id that is registered already is reported and keeps
+    /// its shortcut.
+    void _registerShortcuts(QWidget *mainWindow, WShortcut::ShortcutGroups groups);
+    /// The shortcuts of the group Tool, for a host that leaves them out and meets a developer later.
+    void _registerDebugShortcuts(QWidget *mainWindow);
+
+    /// The shortcuts of these groups, in the order of the registration; those without a group are in none.
+    QList<WShortcut *> getGroupShortcuts(WShortcut::ShortcutGroups groups) const;
+    /// An identifier that is not registered is reported and gives null.
+    WShortcut *getShortcut(WAppSignals::Shortcut shortcutId) const;
     /// The key of a registered shortcut. An identifier that is not registered is reported and gives an empty sequence.
-    /// No shortcut is registered in this version.
     QKeySequence getKeySequence(WAppSignals::Shortcut shortcutId) const;
+    /// Reports nothing.
+    bool shortcutExists(WAppSignals::Shortcut shortcutId) const;
+    /// Until WShortcut::setEnabled() says otherwise.
+    void disableShortcut(WAppSignals::Shortcut shortcutId);
+    void disableAll();
+
+    struct ShortcutConflict
+    {
+        enum Reason {
+            SameKey, ///< another shortcut or action of the window; neither is triggered
+            EditAction, ///< text inputs that have the focus take the key
+            Desktop ///< desktops take the key
+        };
+        Reason reason;
+        WAppSignals::Shortcut shortcutId;
+        QKeySequence key;
+        QString other; ///< who else wants the key: its description or name; empty for Desktop
+    };
+    /// What a host or its tests may want to know of the keys in use; two shortcuts with one key are told once.
+    QVector<WAppSignals::ShortcutConflict> shortcutConflicts() const;
 
 Q_SIGNALS:
     // Contacts and people
@@ -301,6 +335,24 @@ Q_SIGNALS:
     void appMenuItemSelected(QVariant const &, QPointer<QWidget>);
     void openMeetingReactionsPanel();
     void sendMeetingReaction(WKeySequenceLookup::Shortcut);
+
+private:
+    struct Entry
+    {
+        int id;
+        QPointer<WShortcut> shortcut;
+    };
+    const Entry *entry(int id) const;
+    WShortcut *registerShortcut(QWidget *mainWindow, int id, const QKeySequence &key,
+                                void (*emitSignal)(WAppSignals &));
+    void forgetShortcutsOf(QObject *window);
+    void forgetDeadShortcuts();
+    void reportAmbiguity(int id) const;
+    QString nameOf(const Entry &entry) const;
+    QStringList othersWith(const Entry &entry, int from) const;
+
+    QPointer<QWidget> m_mainWindow;
+    QVector<Entry> m_shortcuts; // in the order of the registration; a look-up among sixty needs no hash
 };
 
 Q_DECLARE_METATYPE(WAppSignals::Shortcut)

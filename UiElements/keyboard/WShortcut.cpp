@@ -1,0 +1,212 @@
+#include <UiElements/keyboard/WShortcut.h>
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QEvent>
+#include <QTextDocument>
+#include <QWidget>
+
+/// Keeps the key in the texts of one element. It belongs to the element.
+class WShortcut::Attachment : public QObject
+{
+public:
+    Attachment(WShortcut *shortcut, QWidget *element)
+        : QObject(element)
+        , m_shortcut(shortcut)
+        , m_element(element)
+    {
+        element->installEventFilter(this);
+        refresh();
+    }
+
+    static Attachment *of(const QWidget *element)
+    {
+        for (QObject *child : element->children()) {
+            if (auto *attachment = dynamic_cast<Attachment *>(child))
+                return attachment;
+        }
+        return nullptr;
+    }
+
+    WShortcut *shortcut() const { return m_shortcut; }
+
+    void refresh()
+    {
+        // A text that is not the one written here is the host's.
+        if (m_element->toolTip() != m_toolTip.shown)
+            m_toolTip.own = m_element->toolTip();
+        if (m_element->accessibleDescription() != m_description.shown)
+            m_description.own = m_element->accessibleDescription();
+        const QString start = m_toolTip.own.isEmpty() ? m_shortcut->getShortcutDescription() : m_toolTip.own;
+        m_toolTip.shown = withKey(start, m_toolTip.own);
+        m_description.shown = m_description.own.isEmpty() ? QString() : withKey(m_description.own, QString());
+        write(m_toolTip.shown, m_description.shown);
+    }
+
+    void restore()
+    {
+        refresh();
+        write(m_toolTip.own, m_description.own);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (!m_writing && (event->type() == QEvent::ToolTipChange || event->type() == QEvent::LanguageChange))
+            refresh();
+        return false;
+    }
+
+private:
+    QString withKey(const QString &text, const QString &withoutKey) const
+    {
+        QString key = m_shortcut->key().toString(QKeySequence::NativeText);
+        if (key.isEmpty())
+            return withoutKey.isEmpty() ? text : withoutKey;
+        if (text.isEmpty())
+            return key;
+        if (Qt::mightBeRichText(text))
+            key = key.toHtmlEscaped();
+        return text + QStringLiteral(" (%1)").arg(key);
+    }
+
+    void write(const QString &toolTip, const QString &description)
+    {
+        m_writing = true;
+        if (m_element->toolTip() != toolTip)
+            m_element->setToolTip(toolTip);
+        if (m_element->accessibleDescription() != description)
+            m_element->setAccessibleDescription(description);
+        m_writing = false;
+    }
+
+    struct Text
+    {
+        QString own;
+        QString shown;
+    };
+    WShortcut *const m_shortcut;
+    QWidget *const m_element;
+    Text m_toolTip;
+    Text m_description;
+    bool m_writing = false;
+};
+
+WShortcut::WShortcut(QWidget *parent)
+    : QShortcut(parent)
+{
+}
+
+WShortcut::WShortcut(const QKeySequence &key, QWidget *parent, Qt::ShortcutContext context)
+    : QShortcut(key, parent, nullptr, nullptr, context)
+{
+}
+
+WShortcut::~WShortcut()
+{
+    for (const QPointer<Attachment> &attachment : qAsConst(m_attachments)) {
+        if (attachment) {
+            attachment->restore();
+            delete attachment;
+        }
+    }
+}
+
+QString WShortcut::getShortcutDescription() const
+{
+    if (m_description.isEmpty())
+        return QString();
+    return QCoreApplication::translate("WShortcut", m_description.toUtf8().constData());
+}
+
+void WShortcut::setShortcutDescription(const QString &description)
+{
+    m_description = description;
+    refreshAttachments();
+}
+
+void WShortcut::setShortcutGroup(ShortcutGroup group)
+{
+    switch (int(group)) {
+    case 0:
+    case General:
+    case Messaging:
+    case CallingAndMeeting:
+    case Tool: m_group = group; return;
+    }
+    qWarning("WShortcut::setShortcutGroup - Not one group: %d", int(group));
+}
+
+QString WShortcut::shortcutGroupName(ShortcutGroup group)
+{
+    switch (group) {
+    case General: return tr("General");
+    case Messaging: return tr("Messaging");
+    case CallingAndMeeting: return tr("Calling and meeting");
+    case Tool: return tr("Tool");
+    }
+    return QString();
+}
+
+void WShortcut::setShortcutKey(const QKeySequence &key)
+{
+    setKey(key);
+    refreshAttachments();
+}
+
+void WShortcut::setEnabled(bool enabled)
+{
+    if (m_temporarilyDisabled)
+        m_enabledBefore = enabled;
+    else
+        QShortcut::setEnabled(enabled);
+}
+
+void WShortcut::temporarilyDisable(bool disable)
+{
+    if (m_temporarilyDisabled == disable)
+        return;
+    m_temporarilyDisabled = disable;
+    if (disable) {
+        m_enabledBefore = isEnabled();
+        QShortcut::setEnabled(false);
+    } else {
+        QShortcut::setEnabled(m_enabledBefore);
+    }
+}
+
+void WShortcut::attachTo(QWidget *element)
+{
+    if (!element) {
+        qWarning("WShortcut::attachTo - The element must not be null");
+        return;
+    }
+    if (Attachment *earlier = Attachment::of(element))
+        earlier->shortcut()->detachFrom(element);
+    m_attachments << QPointer<Attachment>(new Attachment(this, element));
+}
+
+void WShortcut::detachFrom(QWidget *element)
+{
+    Attachment *attachment = element ? Attachment::of(element) : nullptr;
+    if (!attachment || attachment->shortcut() != this)
+        return;
+    m_attachments.removeAll(attachment);
+    attachment->restore();
+    delete attachment;
+}
+
+bool WShortcut::event(QEvent *event)
+{
+    // Who holds it as a QShortcut can enable it in between.
+    if (m_temporarilyDisabled && event->type() == QEvent::Shortcut)
+        return true;
+    return QShortcut::event(event);
+}
+
+void WShortcut::refreshAttachments()
+{
+    m_attachments.removeAll(nullptr); // of elements that died
+    for (const QPointer<Attachment> &attachment : qAsConst(m_attachments))
+        attachment->refresh();
+}
