@@ -1,6 +1,8 @@
 #include "support/WApplicationMain.h"
 #include "support/WarningLog.h"
 
+#include <UiElements/widgets/WRadioButton.h>
+
 #include <QAccessible>
 #include <QAction>
 #include <QLineEdit>
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void conflicts();
     void translations();
     void attached();
+    void attachedAccelerator();
     void attachedToMany();
 
 private:
@@ -516,6 +519,27 @@ void tst_Shortcuts::attached()
     delete bus->getShortcut(Id::EndCall);
     QCOMPARE(told(), QStringLiteral("Looks everywhere"));
     QCOMPARE(button.toolTip(), QStringLiteral("<b>Find</b> it"));
+}
+
+void tst_Shortcuts::attachedAccelerator()
+{
+    WAppSignals *bus = WAppSignals::get();
+    bus->registerShortcuts(m_window.data(), WShortcut::General);
+    WShortcut *search = bus->getShortcut(Id::OpenGlobalSearch);
+    WRadioButton button(QStringLiteral("&Find"), m_window.data());
+    const auto told = [&button] {
+        return QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Accelerator);
+    };
+    const QString own = told(); // of the letter in its text
+    QVERIFY(!own.isEmpty());
+    search->attachTo(&button);
+    QCOMPARE(told(), QStringLiteral("Ctrl+F"));
+    search->setShortcutKey(QKeySequence());
+    QCOMPARE(told(), own);
+    search->setShortcutKey(QKeySequence(Qt::CTRL | Qt::Key_2));
+    QCOMPARE(told(), QStringLiteral("Ctrl+2"));
+    search->detachFrom(&button);
+    QCOMPARE(told(), own);
 }
 
 void tst_Shortcuts::attachedToMany()

@@ -196,6 +196,12 @@ void WShortcut::detachFrom(QWidget *element)
     delete attachment;
 }
 
+WShortcut *WShortcut::attachedTo(const QWidget *element)
+{
+    const Attachment *attachment = element ? Attachment::of(element) : nullptr;
+    return attachment ? attachment->shortcut() : nullptr;
+}
+
 bool WShortcut::event(QEvent *event)
 {
     // Who holds it as a QShortcut can enable it in between.

@@ -51,9 +51,13 @@ public:
     /// description and the key. A tooltip that the host sets later gets the key too. An element shows the shortcut that
     /// was attached last, and gets its own texts back when that is detached or dies.
     ///
+    /// Screen readers are told the key of a themed element also as its accelerator (QAccessible::Accelerator).
+    ///
     /// The key does not trigger the element: who answers the shortcut's signal does.
     void attachTo(QWidget *element);
     void detachFrom(QWidget *element);
+    /// The shortcut that the element shows, or null.
+    static WShortcut *attachedTo(const QWidget *element);
 
 protected:
     bool event(QEvent *event) override;

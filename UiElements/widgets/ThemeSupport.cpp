@@ -9,6 +9,8 @@
 #include <UiElements/theme/StyleTemplate_p.h>
 #include <UiElements/theme/WThemeUtils_p.h>
 
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QDebug>
 #include <QEvent>
 #include <QFrame>
@@ -147,11 +149,22 @@ ThemeSupport *ThemeSupport::of(const QWidget *widget)
     return supports().value(widget);
 }
 
+// Qt classes that announce their text or value in the constructor have an accessible interface before the object is a
+// themed one. To ask for it makes one where there is none, so it is asked for only where there is.
+static bool hasEarlyInterface(const QWidget *widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return QAccessible::isActive() || (button && !button->text().isEmpty())
+        || qobject_cast<const QAbstractSpinBox *>(widget);
+}
+
 void ThemeSupport::attach()
 {
     d->attached = true;
     RestylePass::ensure();
     ThemedAccessible::install();
+    if (hasEarlyInterface(d->widget))
+        ThemedAccessible::replaceEarlyInterface(d->widget);
     d->nameConnection =
         QObject::connect(d->widget, &QObject::objectNameChanged, d->widget, [this] { setCss(QString(d->css)); });
     // By name: the slots are those of the widget's own class, which this code does not know.

@@ -1,5 +1,6 @@
 #include "ThemedAccessible_p.h"
 
+#include <UiElements/keyboard/WShortcut.h>
 #include <UiElements/widgets/ThemeSupport.h>
 
 #include <QColor>
@@ -110,6 +111,11 @@ QString ThemedAccessible::text(QAccessible::Text kind) const
     if (kind == ThemeSupport::ElementUniqueIdText) {
         if (const ThemeSupport *support = supportOf(object()))
             return support->elementUniqueId();
+    }
+    if (kind == QAccessible::Accelerator) {
+        const WShortcut *shortcut = WShortcut::attachedTo(qobject_cast<QWidget *>(object()));
+        if (shortcut && !shortcut->key().isEmpty())
+            return shortcut->key().toString(QKeySequence::NativeText);
     }
     return m_inner->text(kind);
 }

@@ -3,10 +3,10 @@
 #include <QAccessible>
 #include <QPointer>
 
-/// Adds the role and the id of a themed widget to the accessible interface that Qt made for it.
+/// Adds the role, the id and the key of a themed widget to the accessible interface that Qt made for it.
 ///
 /// Qt's own interfaces know the text of an edit, the rows of a table and the value of a slider; none of their classes
-/// is public. So this one stands in front, asks Qt's for everything and answers only the role and the id itself.
+/// is public. So this one stands in front, asks Qt's for everything and answers only these itself.
 class ThemedAccessible : public QAccessibleInterface
 {
 public:
