@@ -1,11 +1,13 @@
 #include "GalleryWindow.h"
 
+#include "BusMonitor.h"
 #include "GalleryBar.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "Page.h"
 #include "PageRegistry.h"
 
+#include <UiElements/app/WAppSignals.h>
 #include <UiElements/app/WApplication.h>
 #include <UiElements/app/WFontManager.h>
 #include <UiElements/app/WScaledFonts.h>
@@ -30,6 +32,7 @@ GalleryWindow::GalleryWindow(GalleryThemes *themes, QWidget *parent)
     setObjectName(QStringLiteral("gallery_window"));
     setWindowTitle(tr("UiElements gallery"));
     setCSS(GalleryStyles::window());
+    registerShortcuts();
 
     auto *main = new WWidget;
     auto *column = new QVBoxLayout(main);
@@ -60,6 +63,21 @@ GalleryWindow::GalleryWindow(GalleryThemes *themes, QWidget *parent)
     resize(1280, 832);
     m_navigation->setCurrentRow(0);
     showStatus(QString());
+}
+
+// The keys belong to one main window of a program: here, to the first.
+void GalleryWindow::registerShortcuts()
+{
+    const auto all = WShortcut::General | WShortcut::Messaging | WShortcut::CallingAndMeeting | WShortcut::Tool;
+    WAppSignals *bus = WAppSignals::get();
+    BusMonitor::get(); // sees all that is emitted from here on
+    if (!bus->getGroupShortcuts(all).isEmpty())
+        return;
+    bus->registerShortcuts(this, all);
+    connect(bus, &WAppSignals::showKeyboardShortcutsDialog, this, [this] {
+        showPage(QStringLiteral("shortcuts"));
+        currentPage()->setFocus(Qt::ShortcutFocusReason);
+    });
 }
 
 QWidget *GalleryWindow::makeSide()
@@ -157,6 +175,12 @@ void GalleryWindow::setDirection(Qt::LayoutDirection direction)
 void GalleryWindow::setFontScale(float factor)
 {
     timed([factor] { WApplication::find()->setFontScaleFactor(factor); });
+}
+
+void GalleryWindow::setTimesShown(bool shown)
+{
+    m_timesShown = shown;
+    BusMonitor::get()->setTimesShown(shown);
 }
 
 void GalleryWindow::timed(const std::function<void()> &change)

@@ -31,10 +31,11 @@ public:
     void setDirection(Qt::LayoutDirection direction);
     void setFontScale(float factor);
     /// Durations differ from run to run; pictures are made without them.
-    void setTimesShown(bool shown) { m_timesShown = shown; }
+    void setTimesShown(bool shown);
 
 private:
     QWidget *makeSide();
+    void registerShortcuts();
     void showPageAt(int row);
     /// Makes the change, sees that it is on the screen and tells how long that took.
     void timed(const std::function<void()> &change);

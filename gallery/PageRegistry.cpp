@@ -5,6 +5,7 @@
 #include "pages/DateTimePage.h"
 #include "pages/ListsPage.h"
 #include "pages/OverviewPage.h"
+#include "pages/ShortcutsPage.h"
 #include "pages/TemplatesPage.h"
 #include "pages/TextPage.h"
 #include "pages/ThemeTypesPage.h"
@@ -34,6 +35,7 @@ const QVector<PageEntry> &allPages()
         page<TextPage>("text", "Text"),
         page<DateTimePage>("datetime", "Date and time"),
         page<ChoicesPage>("choices", "Choices and values"),
+        page<ShortcutsPage>("shortcuts", "Shortcuts and signals"),
         page<ThemeTypesPage>("themetypes", "Theme types"),
         page<TypePage>("type", "Type"),
         page<ColorsPage>("colors", "Colors"),
