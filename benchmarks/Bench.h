@@ -74,8 +74,11 @@ Sample repeated(int times, Function function)
     };
 }
 
-Subject templates();
+Subject bus();
+Subject busStartup();
+Subject shortcuts();
 Subject startup();
+Subject templates();
 Subject themeSwitch();
 
 /// The processes that themeSwitch() starts: answers commands on the standard input until it ends.

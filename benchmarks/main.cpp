@@ -30,6 +30,7 @@ int main(int argc, char **argv)
     parser.addOptions({rows, quick});
     parser.process(app);
 
-    const std::vector<bench::Subject> subjects {bench::templates(), bench::startup(), bench::themeSwitch()};
+    std::vector<bench::Subject> subjects {bench::templates(), bench::startup(),   bench::busStartup(),
+                                          bench::bus(),       bench::shortcuts(), bench::themeSwitch()};
     return bench::run(subjects, parser.value(rows), parser.isSet(quick)) ? 0 : 1;
 }

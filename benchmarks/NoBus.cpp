@@ -1,0 +1,5 @@
+#include "NoBus.h"
+
+#include <QtGlobal>
+
+Q_DECL_EXPORT void loadLibraryWithoutBus() { }

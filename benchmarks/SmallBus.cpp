@@ -1,0 +1,1 @@
+#include "SmallBus.h"
