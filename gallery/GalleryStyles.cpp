@@ -393,3 +393,35 @@ QMenu::item:disabled { background-color: $(menu-item-background.disabled); color
 QMenu::separator { height: 1px; margin: 5px 8px; background-color: $(menu-separator.normal); }
 )");
 }
+
+QString GalleryStyles::iconBars()
+{
+    return QStringLiteral(R"(
+QToolBar { background: transparent; border: none; padding: 0; spacing: 4px; }
+QToolBar::separator { width: 1px; margin: 6px 4px; background-color: $(outline-secondary.normal); }
+QToolButton { border-style: solid; border-width: 1px; border-radius: 6px; padding: 5px; }
+QToolButton:focus { border-width: 2px; padding: 4px; }
+QToolButton::menu-indicator { image: none; width: 0; }
+QTabBar { background: transparent; border: none; outline: none; }
+QTabBar::tab { padding: 6px 12px; border: 2px solid transparent; background: transparent;
+    color: $(qx-underlineButton-text.normal); }
+QTabBar::tab:selected { border-bottom-color: $(outline-focus.normal); color: $(qx-underlineButton-text.checked); }
+QTabBar::tab:hover { color: $(qx-underlineButton-text.hovered); }
+QTabBar::tab:focus { border-color: $(outline-focus.normal); border-radius: 6px; }
+QTabBar::tab:disabled { color: $(qx-underlineButton-text.disabled); }
+)")
+        + partRules(QStringLiteral("QToolButton"),
+                    {"background-color: button-ghost-background", "border-color: button-ghost-border",
+                     "color: button-ghost-text"});
+}
+
+QString GalleryStyles::menuWithIcons()
+{
+    // A checked icon has the color for the checked background.
+    return menu() + QStringLiteral(R"(
+QMenu::item { padding-left: 12px; }
+QMenu::icon { padding: 0 8px; }
+QMenu::item:checked { background-color: $(menu-item-background.checked); color: $(menu-item-text.checked); }
+QMenu::item:checked:selected { background-color: $(menu-item-background.hovered); color: $(menu-item-text.hovered); }
+)");
+}

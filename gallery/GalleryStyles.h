@@ -38,5 +38,8 @@ QString radioButton();
 QString slider();
 QString progressBar();
 QString menu();
+QString menuWithIcons();
+/// Tool bars, tool buttons and tabs, for what they stand in.
+QString iconBars();
 
 } // namespace GalleryStyles

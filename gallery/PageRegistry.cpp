@@ -3,6 +3,7 @@
 #include "pages/ChoicesPage.h"
 #include "pages/ColorsPage.h"
 #include "pages/DateTimePage.h"
+#include "pages/IconsPage.h"
 #include "pages/ListsPage.h"
 #include "pages/OverviewPage.h"
 #include "pages/ShortcutsPage.h"
@@ -38,6 +39,7 @@ const QVector<PageEntry> &allPages()
         page<ShortcutsPage>("shortcuts", "Shortcuts and signals"),
         page<ThemeTypesPage>("themetypes", "Theme types"),
         page<TypePage>("type", "Type"),
+        page<IconsPage>("icons", "Icons"),
         page<ColorsPage>("colors", "Colors"),
         page<TemplatesPage>("templates", "Templates"),
     };
