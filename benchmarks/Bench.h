@@ -76,6 +76,7 @@ Sample repeated(int times, Function function)
 
 Subject bus();
 Subject busStartup();
+std::vector<Subject> icons(); ///< one for each size and ratio
 Subject shortcuts();
 Subject startup();
 Subject templates();
