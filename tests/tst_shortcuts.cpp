@@ -1,10 +1,12 @@
 #include "support/WApplicationMain.h"
 #include "support/WarningLog.h"
 
+#include <UiElements/keyboard/EventFilter.h>
 #include <UiElements/widgets/WRadioButton.h>
 
 #include <QAccessible>
 #include <QAction>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMetaEnum>
 #include <QPushButton>
@@ -29,6 +31,9 @@ private Q_SLOTS:
     void windowDestroyedAndCreatedAgain();
     void ambiguousKeys();
     void conflicts();
+    void attachedAndChangedMeanwhile_data();
+    void attachedAndChangedMeanwhile();
+    void registeredAnew();
     void translations();
     void attached();
     void attachedAccelerator();
@@ -441,22 +446,106 @@ void tst_Shortcuts::conflicts()
         return list;
     };
     QCOMPARE(texts(Conflict::SameKey), QStringList());
-    QCOMPARE(texts(Conflict::Desktop), QStringList());
+    const QString recorder = QStringLiteral("23 Ctrl+Alt+Shift+R "); // the table's key, and a desktop's
+    QCOMPARE(texts(Conflict::Desktop), QStringList(recorder));
     QVERIFY(texts(Conflict::EditAction).contains(QStringLiteral("19 Ctrl+F Find")));
     QVERIFY(texts(Conflict::EditAction).contains(QStringLiteral("3 Shift+Return InsertLineSeparator")));
 
     // The same key in two groups, taken by an action of the window, and by the desktop.
     bus->getShortcut(Id::EndCall)->setShortcutKey(QKeySequence(Qt::CTRL | Qt::Key_2));
-    QAction action(QStringLiteral("Teams"), m_window.data());
-    action.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_2));
+    QAction action(QStringLiteral("Teams")), elsewhere(QStringLiteral("Elsewhere"), m_window.data());
+    for (QAction *each : {&action, &elsewhere})
+        each->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_2));
+    QPushButton child(m_window.data());
+    m_window->addAction(&action);
+    child.addAction(&action); // told once
+    QDialog dialog(m_window.data()); // has keys of its own
+    QShortcut inDialog(QKeySequence(Qt::CTRL | Qt::Key_2), &dialog);
     QCOMPARE(texts(Conflict::SameKey),
              QStringList({QStringLiteral("37 Ctrl+2 End call (11)"), QStringLiteral("37 Ctrl+2 Teams"),
                           QStringLiteral("11 Ctrl+2 Teams")}));
     bus->getShortcut(Id::EndCall)->setShortcutKey(QKeySequence(Qt::ALT | Qt::Key_F4));
-    QCOMPARE(texts(Conflict::Desktop), QStringList(QStringLiteral("11 Alt+F4 ")));
+    QCOMPARE(texts(Conflict::Desktop), QStringList({QStringLiteral("11 Alt+F4 "), recorder}));
     bus->getShortcut(Id::EndCall)->setShortcutKey(QKeySequence()); // no key, no conflict
     bus->getShortcut(Id::AnswerCall)->setShortcutKey(QKeySequence());
     QCOMPARE(texts(Conflict::SameKey), QStringList(QStringLiteral("37 Ctrl+2 Teams")));
+    bus->disableShortcut(Id::SelectTeamsTab);
+    QCOMPARE(texts(Conflict::SameKey), QStringList());
+    bus->disableAll();
+    QVERIFY(bus->shortcutConflicts().isEmpty());
+}
+
+// Anything may happen in the event that a new tooltip sends.
+void tst_Shortcuts::attachedAndChangedMeanwhile_data()
+{
+    QTest::addColumn<QString>("what");
+    for (const char *what : {"element dies", "other element dies", "detached", "other shortcut takes over",
+                             "shortcut dies", "another one attached"})
+        QTest::newRow(what) << QString::fromLatin1(what);
+}
+
+void tst_Shortcuts::attachedAndChangedMeanwhile()
+{
+    QFETCH(QString, what);
+    WAppSignals *bus = WAppSignals::get();
+    bus->registerShortcuts(m_window.data(), WShortcut::General);
+    QPointer<WShortcut> search = bus->getShortcut(Id::OpenGlobalSearch);
+    WShortcut *help = bus->getShortcut(Id::OpenHelpPopUp);
+    QPointer<QPushButton> first = new QPushButton(m_window.data()), second = new QPushButton(m_window.data());
+    QPushButton third;
+    search->attachTo(first);
+    search->attachTo(second);
+    int left = 1;
+    QPointer<QObject> filter =
+        VisualUtils::EventFilter::install(first, {QEvent::ToolTipChange}, [&](QObject *, QEvent *) {
+            if (left-- <= 0)
+                return false;
+            if (what == QLatin1String("element dies"))
+                delete first;
+            else if (what == QLatin1String("other element dies"))
+                delete second;
+            else if (what == QLatin1String("detached"))
+                search->detachFrom(first);
+            else if (what == QLatin1String("other shortcut takes over"))
+                help->attachTo(first);
+            else if (what == QLatin1String("shortcut dies"))
+                delete search;
+            else
+                search->attachTo(&third);
+            return true;
+        });
+    search->setShortcutKey(QKeySequence(Qt::CTRL | Qt::Key_2));
+    delete filter; // it looks at this function
+    QVERIFY(left <= 0);
+    const QString plain, now = QStringLiteral("Search (Ctrl+2)");
+    if (first)
+        QCOMPARE(first->toolTip(),
+                 what == QLatin1String("detached")                        ? plain
+                     : what == QLatin1String("shortcut dies")             ? plain
+                     : what == QLatin1String("other shortcut takes over") ? QStringLiteral("Open Help Center (F1)")
+                                                                          : now);
+    if (second)
+        QCOMPARE(second->toolTip(), search ? now : plain);
+    delete search;
+    if (second)
+        QCOMPARE(second->toolTip(), plain);
+}
+
+void tst_Shortcuts::registeredAnew()
+{
+    WAppSignals *bus = WAppSignals::get();
+    bus->registerShortcuts(m_window.data(), WShortcut::General);
+    WarningLog log;
+    delete bus->getShortcut(Id::OpenGlobalSearch);
+    bus->_registerShortcuts(m_window.data(), WShortcut::Tool);
+    QCOMPARE(registeredCount(), 18);
+    // The next main window, as soon as the old one says that it goes.
+    QWidget next;
+    connect(m_window.data(), &QObject::destroyed, this,
+            [&] { bus->registerShortcuts(&next, WShortcut::CallingAndMeeting); });
+    m_window.reset();
+    QCOMPARE(registeredCount(), 17);
+    QCOMPARE(log.take(), QStringList());
 }
 
 void tst_Shortcuts::translations()
@@ -509,6 +598,7 @@ void tst_Shortcuts::attached()
 
     button.setAccessibleDescription(QStringLiteral("Looks everywhere"));
     search->attachTo(&button);
+    bus->getShortcut(Id::EndCall)->detachFrom(&button); // shows another one
     search->attachTo(&button); // not twice
     QCOMPARE(told(), QStringLiteral("Looks everywhere (Ctrl+F)"));
     QCOMPARE(button.toolTip(), QStringLiteral("<b>Find</b> it (Ctrl+F)"));
@@ -516,9 +606,18 @@ void tst_Shortcuts::attached()
     QCOMPARE(told(), QStringLiteral("Looks everywhere (Ctrl+L)"));
     search->setShortcutKey(QKeySequence(Qt::CTRL | Qt::Key_2));
     QCOMPARE(told(), QStringLiteral("Looks everywhere (Ctrl+L)"));
+    button.setAccessibleDescription(QStringLiteral("Ends it"));
     delete bus->getShortcut(Id::EndCall);
-    QCOMPARE(told(), QStringLiteral("Looks everywhere"));
+    QCOMPARE(told(), QStringLiteral("Ends it"));
     QCOMPARE(button.toolTip(), QStringLiteral("<b>Find</b> it"));
+
+    // Without a tooltip of its own it tells what the shortcut is, in whatever language that is.
+    button.setToolTip(QString());
+    search->attachTo(&button);
+    search->setShortcutDescription(QStringLiteral("Look"));
+    QCOMPARE(button.toolTip(), QStringLiteral("Look (Ctrl+2)"));
+    search->setShortcutDescription(QString());
+    QCOMPARE(button.toolTip(), QStringLiteral("Ctrl+2"));
 }
 
 void tst_Shortcuts::attachedAccelerator()

@@ -16,8 +16,7 @@
 /// - What is passed by value has to look to the compiler as the library expects it: an enumeration of the size of an
 ///   int. That is checked below.
 /// - Copying for queued connections, which needs the definitions, is registered by the program: every program, library
-///   or plug-in that includes this header registers the types as it sees them when it is loaded, before its
-///   application object exists, under the names that the signals use. All of them have to see the same definitions;
+///   or plug-in that includes this header registers the types as it sees them when it is loaded, under the names that the signals use. All of them have to see the same definitions;
 ///   Qt ends the program when the sizes differ.
 
 #include <QMetaType>

@@ -8,6 +8,7 @@
 #include <QMetaEnum>
 #include <QPoint>
 #include <QRect>
+#include <QSet>
 #include <QWidget>
 
 #include <algorithm>
@@ -138,7 +139,7 @@ QVector<WAppSignals::ShortcutConflict> WAppSignals::shortcutConflicts() const
     QVector<ShortcutConflict> conflicts;
     for (int i = 0; i < m_shortcuts.size(); ++i) {
         const Entry &each = m_shortcuts.at(i);
-        if (!each.shortcut || each.shortcut->key().isEmpty())
+        if (!each.shortcut || !each.shortcut->isEnabled() || each.shortcut->key().isEmpty())
             continue;
         const QKeySequence key = each.shortcut->key();
         const auto add = [&](ShortcutConflict::Reason reason, const QString &other) {
@@ -166,6 +167,8 @@ const WAppSignals::Entry *WAppSignals::entry(int id) const
 /// The window is being destroyed, but its children still live.
 void WAppSignals::forgetShortcutsOf(QObject *window)
 {
+    if (window == m_mainWindow)
+        m_mainWindow.clear();
     for (Entry &each : m_shortcuts) {
         if (each.shortcut && each.shortcut->parent() == window)
             each.shortcut.clear();
@@ -208,7 +211,7 @@ QStringList WAppSignals::othersWith(const Entry &entry, int from) const
             && (key.matches(other) != QKeySequence::NoMatch || other.matches(key) != QKeySequence::NoMatch);
     };
     QStringList names;
-    QVector<const QShortcut *> registered;
+    QSet<const QShortcut *> registered;
     for (int i = 0; i < m_shortcuts.size(); ++i) {
         const Entry &each = m_shortcuts.at(i);
         registered << each.shortcut;
@@ -216,22 +219,32 @@ QStringList WAppSignals::othersWith(const Entry &entry, int from) const
             && same(each.shortcut->key()))
             names << nameOf(each);
     }
-    const QWidget *parent = entry.shortcut->parentWidget();
-    if (!parent)
+    if (!entry.shortcut->parentWidget())
         return names;
-    const QWidget *window = parent->window();
-    const auto foreign = window->findChildren<QShortcut *>();
-    for (const QShortcut *shortcut : foreign) {
-        if (!registered.contains(shortcut) && shortcut->isEnabled() && same(shortcut->key())) {
-            const QString name = shortcut->objectName();
-            names << (name.isEmpty() ? QString::fromLatin1(shortcut->metaObject()->className()) : name);
+
+    // Of other windows, such as dialogs, nothing stands in the way here, even if they are children.
+    const QWidget *window = entry.shortcut->parentWidget()->window();
+    QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    widgets.prepend(const_cast<QWidget *>(window));
+    QSet<const QAction *> seen;
+    for (const QWidget *widget : qAsConst(widgets)) {
+        if (widget->window() != window)
+            continue;
+        const auto shortcuts = widget->findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QShortcut *shortcut : shortcuts) {
+            if (!registered.contains(shortcut) && shortcut->isEnabled() && same(shortcut->key())) {
+                const QString name = shortcut->objectName();
+                names << (name.isEmpty() ? QString::fromLatin1(shortcut->metaObject()->className()) : name);
+            }
         }
-    }
-    const auto actions = window->findChildren<QAction *>();
-    for (const QAction *action : actions) {
-        const QList<QKeySequence> keys = action->shortcuts();
-        if (action->isEnabled() && std::any_of(keys.cbegin(), keys.cend(), same))
+        const QList<QAction *> actions = widget->actions();
+        for (const QAction *action : actions) {
+            const QList<QKeySequence> keys = action->shortcuts();
+            if (seen.contains(action) || !action->isEnabled() || !std::any_of(keys.cbegin(), keys.cend(), same))
+                continue;
+            seen << action;
             names << action->text();
+        }
     }
     return names;
 }

@@ -108,7 +108,7 @@ public:
 
     /// Creates the shortcuts of these groups on the main window and remembers it. That is done once: while a window is
     /// remembered, another call is refused, with the same window too. A window that dies takes its shortcuts along, and
-    /// the next one may be registered.
+    /// the next one may be registered, also from a handler of its destroyed() that was connected after this call.
     void registerShortcuts(QWidget *mainWindow, WShortcut::ShortcutGroups groups);
     /// The same without that check, for groups that come later. An id that is registered already is reported and keeps
     /// its shortcut.
@@ -132,7 +132,7 @@ public:
     {
         enum Reason {
             SameKey, ///< another shortcut or action of the window; neither is triggered
-            EditAction, ///< text inputs that have the focus take the key
+            EditAction, ///< the key of a standard edit action: an input that has the focus may take it
             Desktop ///< desktops take the key
         };
         Reason reason;
@@ -140,7 +140,8 @@ public:
         QKeySequence key;
         QString other; ///< who else wants the key: its description or name; empty for Desktop
     };
-    /// What a host or its tests may want to know of the keys in use; two shortcuts with one key are told once.
+    /// What a host or its tests may want to know of the keys of enabled shortcuts; two with one key are told once. Looked
+    /// at are the shortcuts and actions of the window that a shortcut is registered on.
     QVector<WAppSignals::ShortcutConflict> shortcutConflicts() const;
 
 Q_SIGNALS:

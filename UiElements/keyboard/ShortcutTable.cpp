@@ -117,30 +117,32 @@ constexpr QKeySequence::StandardKey editActions[] = {QKeySequence::Undo,
                                                      QKeySequence::SelectNextWord,
                                                      QKeySequence::SelectPreviousWord};
 
-// What GNOME, KDE Plasma and Xfce come with.
+// What GNOME, KDE Plasma and Xfce come with, besides those that isReservedByDesktops() names by rule.
 constexpr int desktopKeys[] = {Ctrl | Alt | Qt::Key_Delete,
                                Ctrl | Alt | Qt::Key_Backspace,
-                               Ctrl | Alt | Qt::Key_Up,
-                               Ctrl | Alt | Qt::Key_Down,
-                               Ctrl | Alt | Qt::Key_Left,
-                               Ctrl | Alt | Qt::Key_Right,
                                Ctrl | Alt | Qt::Key_T,
                                Ctrl | Alt | Qt::Key_L,
                                Ctrl | Alt | Qt::Key_D,
+                               Ctrl | Alt | Qt::Key_F,
                                Ctrl | Alt | Qt::Key_Tab,
+                               Ctrl | Alt | Shift | Qt::Key_Tab,
+                               Ctrl | Alt | Shift | Qt::Key_Backtab,
+                               Ctrl | Alt | Qt::Key_Escape,
+                               Ctrl | Alt | Qt::Key_Home,
+                               Ctrl | Alt | Qt::Key_End,
+                               Ctrl | Alt | Shift | Qt::Key_R, // records the screen
                                Ctrl | Qt::Key_Escape,
+                               Ctrl | Shift | Qt::Key_Escape,
                                Alt | Qt::Key_Tab,
                                Alt | Shift | Qt::Key_Tab,
                                Alt | Shift | Qt::Key_Backtab,
                                Alt | Qt::Key_Escape,
+                               Alt | Shift | Qt::Key_Escape,
                                Alt | Qt::Key_Space,
-                               Alt | Qt::Key_F1,
-                               Alt | Qt::Key_F2,
-                               Alt | Qt::Key_F3,
-                               Alt | Qt::Key_F4,
-                               Alt | Qt::Key_F7,
-                               Alt | Qt::Key_F8,
-                               Alt | Qt::Key_F10,
+                               Alt | Qt::Key_Insert,
+                               Alt | Qt::Key_Delete,
+                               Alt | Shift | Qt::Key_PageUp,
+                               Alt | Shift | Qt::Key_PageDown,
                                Qt::Key_Print,
                                Alt | Qt::Key_Print,
                                Shift | Qt::Key_Print};
@@ -177,9 +179,15 @@ bool isReservedByDesktops(const QKeySequence &key)
         return false;
     const int first = key[0];
     const int plain = first & ~int(Qt::KeyboardModifierMask);
-    if (first & Qt::META) // their own key
+    const int modifiers = first & int(Qt::KeyboardModifierMask);
+    if (modifiers & Qt::META) // their own key
         return true;
-    if ((first & Qt::KeyboardModifierMask) == (Ctrl | Alt) && plain >= Qt::Key_F1 && plain <= Qt::Key_F12)
-        return true; // the text consoles
+    const bool isFunctionKey = plain >= Qt::Key_F1 && plain <= Qt::Key_F12;
+    const bool isArrow = plain >= Qt::Key_Left && plain <= Qt::Key_Down;
+    // Windows; workspaces; the text consoles.
+    if (isFunctionKey && (modifiers == Alt || modifiers == Ctrl || modifiers == (Ctrl | Alt)))
+        return true;
+    if (isArrow && (modifiers == (Ctrl | Alt) || modifiers == (Ctrl | Alt | Shift))) // workspaces
+        return true;
     return std::find(std::begin(desktopKeys), std::end(desktopKeys), first) != std::end(desktopKeys);
 }

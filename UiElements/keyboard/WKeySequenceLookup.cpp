@@ -45,7 +45,7 @@ constexpr Row table[] = {
     {Id::ReplyToMessage, Group::Messaging, Ctrl | Qt::Key_R, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Reply to the message")},
     {Id::QuoteMessage, Group::Messaging, Ctrl | Shift | Qt::Key_R, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Quote the message")},
     {Id::ForwardMessage, Group::Messaging, Ctrl | Shift | Qt::Key_F, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Forward the message")},
-    {Id::FlagMessage, Group::Messaging, Ctrl | Alt | Qt::Key_F, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Flag the message")},
+    {Id::FlagMessage, Group::Messaging, Ctrl | Alt | Qt::Key_G, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Flag the message")},
     {Id::DeleteMessage, Group::Messaging, Qt::Key_Delete, 0, AfterInputs, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Delete the message")},
     {Id::CopyMessage, Group::Messaging, Ctrl | Qt::Key_C, 0, AfterInputs, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Copy the message")},
     {Id::CopySpaceInformation, Group::Messaging, Ctrl | Shift | Qt::Key_K, 0, First, QT_TRANSLATE_NOOP("WKeySequenceLookup", "Copy space information to clipboard")},

@@ -6,6 +6,9 @@
 #include <QTextDocument>
 #include <QWidget>
 
+#include <memory>
+#include <utility>
+
 /// Keeps the key in the texts of one element. It belongs to the element.
 class WShortcut::Attachment : public QObject
 {
@@ -16,7 +19,6 @@ public:
         , m_element(element)
     {
         element->installEventFilter(this);
-        refresh();
     }
 
     static Attachment *of(const QWidget *element)
@@ -30,6 +32,7 @@ public:
 
     WShortcut *shortcut() const { return m_shortcut; }
 
+    // Setting a tooltip sends an event, in which anybody may delete the element, the shortcut or the attachment.
     void refresh()
     {
         // A text that is not the one written here is the host's.
@@ -37,15 +40,21 @@ public:
             m_toolTip.own = m_element->toolTip();
         if (m_element->accessibleDescription() != m_description.shown)
             m_description.own = m_element->accessibleDescription();
-        const QString start = m_toolTip.own.isEmpty() ? m_shortcut->getShortcutDescription() : m_toolTip.own;
-        m_toolTip.shown = withKey(start, m_toolTip.own);
-        m_description.shown = m_description.own.isEmpty() ? QString() : withKey(m_description.own, QString());
+        m_toolTip.shown = withKey(m_toolTip.own.isEmpty() ? m_shortcut->getShortcutDescription() : m_toolTip.own);
+        m_description.shown = m_description.own.isEmpty() ? QString() : withKey(m_description.own);
         write(m_toolTip.shown, m_description.shown);
     }
 
+    /// Takes itself off the element, gives it its texts back and ends.
     void restore()
     {
-        refresh();
+        const std::unique_ptr<Attachment> self(this);
+        if (m_element->toolTip() != m_toolTip.shown)
+            m_toolTip.own = m_element->toolTip();
+        if (m_element->accessibleDescription() != m_description.shown)
+            m_description.own = m_element->accessibleDescription();
+        m_element->removeEventFilter(this);
+        setParent(nullptr);
         write(m_toolTip.own, m_description.own);
     }
 
@@ -58,11 +67,11 @@ protected:
     }
 
 private:
-    QString withKey(const QString &text, const QString &withoutKey) const
+    QString withKey(const QString &text) const
     {
         QString key = m_shortcut->key().toString(QKeySequence::NativeText);
         if (key.isEmpty())
-            return withoutKey.isEmpty() ? text : withoutKey;
+            return text;
         if (text.isEmpty())
             return key;
         if (Qt::mightBeRichText(text))
@@ -72,12 +81,15 @@ private:
 
     void write(const QString &toolTip, const QString &description)
     {
+        const QPointer<Attachment> self(this);
+        const QPointer<QWidget> element(m_element);
         m_writing = true;
         if (m_element->toolTip() != toolTip)
             m_element->setToolTip(toolTip);
-        if (m_element->accessibleDescription() != description)
-            m_element->setAccessibleDescription(description);
-        m_writing = false;
+        if (self && element && element->accessibleDescription() != description)
+            element->setAccessibleDescription(description);
+        if (self)
+            m_writing = false;
     }
 
     struct Text
@@ -104,11 +116,10 @@ WShortcut::WShortcut(const QKeySequence &key, QWidget *parent, Qt::ShortcutConte
 
 WShortcut::~WShortcut()
 {
-    for (const QPointer<Attachment> &attachment : qAsConst(m_attachments)) {
-        if (attachment) {
+    const QVector<QPointer<Attachment>> attachments = std::exchange(m_attachments, {});
+    for (const QPointer<Attachment> &attachment : attachments) {
+        if (attachment)
             attachment->restore();
-            delete attachment;
-        }
     }
 }
 
@@ -181,9 +192,15 @@ void WShortcut::attachTo(QWidget *element)
         qWarning("WShortcut::attachTo - The element must not be null");
         return;
     }
-    if (Attachment *earlier = Attachment::of(element))
+    const QPointer<WShortcut> self(this);
+    const QPointer<QWidget> guard(element);
+    if (const Attachment *earlier = Attachment::of(element))
         earlier->shortcut()->detachFrom(element);
-    m_attachments << QPointer<Attachment>(new Attachment(this, element));
+    if (!self || !guard)
+        return;
+    auto *attachment = new Attachment(this, element);
+    m_attachments << QPointer<Attachment>(attachment);
+    attachment->refresh();
 }
 
 void WShortcut::detachFrom(QWidget *element)
@@ -193,7 +210,6 @@ void WShortcut::detachFrom(QWidget *element)
         return;
     m_attachments.removeAll(attachment);
     attachment->restore();
-    delete attachment;
 }
 
 WShortcut *WShortcut::attachedTo(const QWidget *element)
@@ -213,6 +229,9 @@ bool WShortcut::event(QEvent *event)
 void WShortcut::refreshAttachments()
 {
     m_attachments.removeAll(nullptr); // of elements that died
-    for (const QPointer<Attachment> &attachment : qAsConst(m_attachments))
-        attachment->refresh();
+    const QVector<QPointer<Attachment>> attachments = m_attachments;
+    for (const QPointer<Attachment> &attachment : attachments) {
+        if (attachment)
+            attachment->refresh();
+    }
 }

@@ -36,7 +36,8 @@ public:
     QString getShortcutGroupName() const { return shortcutGroupName(m_group); }
     static QString shortcutGroupName(ShortcutGroup group);
 
-    /// Changes the key, here and in the texts of the element that the shortcut is attached to.
+    /// Changes the key, here and in the texts of the elements that the shortcut is attached to. QShortcut::setKey()
+    /// leaves those as they are until the next change.
     void setShortcutKey(const QKeySequence &key);
 
     /// Hides QShortcut's. While the shortcut is temporarily disabled this is remembered, and counts afterwards.
@@ -48,7 +49,8 @@ public:
 
     /// Tells the key to those who use the element: its tooltip ends in " (Ctrl+F)", and so does its accessible
     /// description, which is the tooltip unless the element has one of its own. An empty tooltip becomes the shortcut's
-    /// description and the key. A tooltip that the host sets later gets the key too. An element shows the shortcut that
+    /// description and the key. A tooltip that the host sets later gets the key too, an accessible description
+    /// with the next change of the tooltip or the key. An element shows the shortcut that
     /// was attached last, and gets its own texts back when that is detached or dies.
     ///
     /// Screen readers are told the key of a themed element also as its accelerator (QAccessible::Accelerator).
