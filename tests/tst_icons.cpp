@@ -7,8 +7,7 @@
 #include <UiElements/icons/WSvgIconEngine.h>
 #include <UiElements/icons/WSvgRenderer.h>
 
-#include <QAction>
-#include <QMenu>
+#include <QListWidget>
 #include <QPainter>
 #include <QPicture>
 #include <QTemporaryDir>
@@ -48,8 +47,10 @@ private Q_SLOTS:
     void picturesAreMadeWhenPainted();
     void mirroring();
     void themedIconFollows();
+    void themedIconOnAScreenOfRatioTwo();
     void themedIconInAnUnknownColor();
     void fitRectangle();
+    void focusFrame();
     void iconAndText_data();
     void iconAndText();
     void iconAndTextPainted();
@@ -535,6 +536,9 @@ void tst_Icons::placesAndTransforms()
     QCOMPARE(paint(QTransform().scale(1, .5)), QStringLiteral("r..."));
     QCOMPARE(paint(QTransform().translate(-8, 0)), QStringLiteral("...."));
     QCOMPARE(paint(QTransform().scale(40, 40)), QStringLiteral("rrrr")); // too large to be kept
+    icon.setIconSize(QSize(40000, 40000));
+    QCOMPARE(paint(QTransform().scale(.0004, .0004)), QStringLiteral("r.r."));
+    icon.setIconSize(QSize(16, 16));
     QCOMPARE(paint(QTransform()), QStringLiteral("r.r."));
 
     // Other devices get the drawing and not a picture of it.
@@ -583,7 +587,7 @@ void tst_Icons::picturesAreMadeWhenPainted()
     QCOMPARE(paint(3), 3); // files are not shared: each may have changed in between
     QCOMPARE(paint(3), 0);
     // Of each the half that something is in.
-    QCOMPARE(WSvgIcon::pictureBytes(), bytes + 3 * 8 * 16 * 4);
+    QCOMPARE(WSvgIcon::pictureBytes(), bytes + 3 * (8 * 16 * 4 + 400));
     // Another theme costs those that are seen in it.
     for (const auto &icon : icons)
         icon->setColorSet(plainSet("a", QColor(3, 2, 1)));
@@ -704,10 +708,44 @@ void tst_Icons::themedIconFollows()
     QTRY_VERIFY(paints.count > 0);
     QCOMPARE(button.grab().toImage().pixelColor(12, 16), QColor(Qt::blue));
 
-    QIcon copy = icon; // detaches, which clones the engine
-    copy.addFile(QString());
-    QCOMPARE(quarters(copy.pixmap(QSize(16, 16)).toImage()), QStringLiteral("b.b."));
+    // So does a list, whose rows are painted by its viewport.
+    QListWidget list;
+    list.addItem(new QListWidgetItem(icon, QStringLiteral("row")));
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QCoreApplication::processEvents();
+    paints.count = 0;
+    list.viewport()->installEventFilter(&paints);
+    app->setColorSets({{"icon-set", plainSet("icon-set", Qt::red)}});
+    QTRY_VERIFY(paints.count > 0);
+
+    // A copy has a clone of the engine, with all that it was given.
+    app->setInvertedColorSets({{"icon-set", plainSet("icon-set", QColor(255, 255, 0))}});
+    QIcon copy = WSvgIconEngine::icon(file("left.svg"), QStringLiteral("icon-set"), WThemeUtils::AppThemeTypeInverted,
+                                      file("blue.svg"));
+    copy = QIcon(WSvgIconEngine(file("left.svg"), QStringLiteral("icon-set"), WThemeUtils::AppThemeTypeInverted,
+                                file("blue.svg"))
+                     .clone());
+    QCOMPARE(quarters(copy.pixmap(QSize(16, 16)).toImage()), QStringLiteral("y.y."));
+    QCOMPARE(quarters(copy.pixmap(QSize(16, 16), QIcon::Normal, QIcon::On).toImage()), QStringLiteral("yyyy"));
+
+    // In the middle of what is not square.
+    QImage wide(32, 16, QImage::Format_ARGB32_Premultiplied);
+    wide.fill(Qt::transparent);
+    QPainter painter(&wide);
+    icon.paint(&painter, wide.rect());
+    painter.end();
+    QCOMPARE(wide.pixelColor(7, 8).alpha(), 0);
+    QCOMPARE(wide.pixelColor(8, 8), QColor(Qt::red));
+    QCOMPARE(wide.pixelColor(16, 8).alpha(), 0);
     app->setColorSets({});
+    app->setInvertedColorSets({});
+}
+
+// Plain Qt widgets ask an icon for pixels of the window only with this attribute.
+void tst_Icons::themedIconOnAScreenOfRatioTwo()
+{
+    QVERIFY(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps));
 }
 
 void tst_Icons::themedIconInAnUnknownColor()
@@ -732,6 +770,23 @@ void tst_Icons::fitRectangle()
     for (double aspect : {0.0, -1.0, HUGE_VAL, std::nan("")})
         QVERIFY(DrawUtils::fitRectangle(rect, aspect).isEmpty());
     QVERIFY(DrawUtils::fitRectangle(QRectF(), 1).isEmpty());
+}
+
+void tst_Icons::focusFrame()
+{
+    QImage img = image(1);
+    QPainter painter(&img);
+    DrawUtils::drawFocusRect(&painter, QRectF(2, 2, 12, 12), Qt::red, 4);
+    DrawUtils::drawFocusRect(&painter, QRectF(2, 2, 2, 2), Qt::blue, 4); // no room
+    DrawUtils::drawFocusRect(&painter, QRectF(0, 0, 16, 16), QColor(), 4);
+    DrawUtils::drawFocusRect(nullptr, QRectF(0, 0, 16, 16), Qt::red, 4);
+    painter.end();
+    QString column;
+    for (int x = 0; x < 6; ++x)
+        column += img.pixelColor(x, 8) == QColor(Qt::red) ? QLatin1Char('r') : QLatin1Char('.');
+    QCOMPARE(column, QStringLiteral("..rr..")); // two pixels, inside
+    QCOMPARE(img.pixelColor(2, 2).alpha(), 0); // the corner is round
+    QCOMPARE(DrawUtils::layoutDirection(nullptr), Qt::LeftToRight);
 }
 
 void tst_Icons::iconAndText_data()

@@ -17,6 +17,7 @@ WApplication::WApplication(int &argc, char **argv)
     m_globalSignalListener = new WGlobalSignalListener(this);
     qRegisterMetaType<WAppSignals::Shortcut>("WAppSignals::Shortcut");
 
+    setAttribute(Qt::AA_UseHighDpiPixmaps);
     installFontSubstitutions();
     WFont font(WFont::Default, false);
     font.setFamily(QStringLiteral("Segoe UI"));

@@ -77,6 +77,8 @@ QColor DrawUtils::colorForState(const WColorSet &colors, QStyle::State state)
 Qt::LayoutDirection DrawUtils::layoutDirection(const QPainter *painter)
 {
     const Qt::LayoutDirection application = QGuiApplication::layoutDirection();
+    if (!painter)
+        return application;
     const Qt::LayoutDirection own = painter->layoutDirection();
     if (own != Qt::LayoutDirectionAuto && own != application)
         return own;

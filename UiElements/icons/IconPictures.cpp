@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int MaxBytes = 8 * 1024 * 1024;
+constexpr int EntryBytes = 400; // what an entry takes besides the bits: empty pictures count too
 
 struct Table
 {
@@ -85,7 +86,7 @@ QImage IconPictures::picture(const IconPictureKey &key, const QRectF &marked,
     if (const QImage *found = all.pictures.object(key))
         return *found;
     const QImage made = render(key, marked, draw);
-    all.pictures.insert(key, new QImage(made), int(made.sizeInBytes()));
+    all.pictures.insert(key, new QImage(made), int(made.sizeInBytes()) + EntryBytes);
     return made;
 }
 

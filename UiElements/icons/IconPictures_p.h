@@ -38,7 +38,7 @@ public:
     /// in pixels is QImage::offset(). The function draws one unit as one unit of the painter.
     static QImage picture(const IconPictureKey &key, const QRectF &marked, const std::function<void(QPainter *)> &draw);
 
-    static qint64 bytes(); ///< of all pictures
+    static qint64 bytes(); ///< of all pictures and what keeping them takes
     static void drop();
     static int rendered(); ///< pictures made since the program started
 };

@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr int LargestUnits = 4096; // of a kept picture, before it is scaled
 constexpr int LargestPicture = 256; // in device pixels; larger icons are drawn each time
 
 } // namespace
@@ -214,8 +215,8 @@ void WSvgIcon::paint(QPainter *painter, const IconData &data, const QColor &colo
     const bool isOnPixels =
         engine && (engine->type() == QPaintEngine::Raster || engine->type() == QPaintEngine::OpenGL2);
     if (!isOnPixels || renderer.isAnimated() || device.type() > QTransform::TxScale || ratio != device.m22()
-        || !(ratio > 0) || data.iconSize.isEmpty() || data.iconSize.width() * ratio > LargestPicture
-        || data.iconSize.height() * ratio > LargestPicture) {
+        || !(ratio > 0) || data.iconSize.isEmpty() || qMax(data.iconSize.width(), data.iconSize.height()) > LargestUnits
+        || data.iconSize.width() * ratio > LargestPicture || data.iconSize.height() * ratio > LargestPicture) {
         draw(painter);
         return;
     }

@@ -46,7 +46,7 @@ public:
 
     bool isVisible() const;
     void setVisible(bool visible);
-    /// Something can be drawn: the renderer is there. It says nothing of visibility.
+    /// The renderer is there. It says nothing of visibility.
     bool isValid() const;
 
     QString getInnerFilePath() const;

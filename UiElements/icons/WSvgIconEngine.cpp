@@ -18,10 +18,11 @@ void followColors()
         return;
     followed = app;
     QObject::connect(app, &IWApplication::colorSetsChanged, app, [] {
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            if (window->isVisible())
-                window->update();
+        // All, because Qt leaves opaque widgets out when it paints what is behind them.
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (widget->isVisible())
+                widget->update();
         }
     });
 }
@@ -65,6 +66,7 @@ void WSvgIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mod
 {
     if (!painter || rect.isEmpty())
         return;
+    followColors(); // the icon may be older than the application object
     const int side = qMin(rect.width(), rect.height());
     QRect square(0, 0, side, side);
     square.moveCenter(rect.center());
