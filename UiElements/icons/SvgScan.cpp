@@ -105,9 +105,8 @@ bool hasLongCompressedText(const QByteArray &png)
     for (qint64 at = 8; at + 12 <= png.size();) {
         const qint64 length = qFromBigEndian<quint32>(png.constData() + at);
         const QByteArray chunk = png.mid(int(at) + 4, int(std::min<qint64>(length + 4, 100))); // a keyword is shorter
-        const bool isInternational = chunk.startsWith("iTXt");
-        const int flag = chunk.indexOf('\0') + 1;
-        if (chunk.startsWith("zTXt") || (isInternational && (flag == 0 || chunk.mid(flag, 1) != QByteArray(1, '\0'))))
+        const int flag = chunk.indexOf('\0') + 1; // behind the keyword
+        if (chunk.startsWith("zTXt") || (chunk.startsWith("iTXt") && chunk.mid(flag, 1) != QByteArray(1, '\0')))
             sum += length;
         at += length + 12;
     }
@@ -244,6 +243,7 @@ private:
             m_nodes.append(kind);
         m_isStyle += m_open.last().isStyle ? 1 : 0;
         m_isText += isText ? 1 : 0;
+        m_hasSpans = m_hasSpans || name == QLatin1String("tspan");
         m_elements[index].text = isText ? 10 : 0; // for the font, which is looked for once for each
         // Stops go to the last gradient, wherever they are.
         if (name == QLatin1String("linearGradient") || name == QLatin1String("radialGradient"))
@@ -268,6 +268,8 @@ private:
                 checkStyle(attribute.value());
             else if (key == QLatin1String("stroke-dasharray"))
                 m_longestDashes = std::max<qint64>(m_longestDashes, attribute.value().size());
+            else if (key == QLatin1String("font-size"))
+                addFontSize(attribute.value());
             if (key == QLatin1String("href"))
                 checkReference(attribute, name, &element);
             else
@@ -362,6 +364,20 @@ private:
             refuse("too many style rules");
         if (escapes > 0 || style.contains(QLatin1String("stroke-dasharray")))
             m_longestDashes = std::max<qint64>(m_longestDashes, style.size());
+        static const QRegularExpression fontSize(QStringLiteral("font-size\\s*:([^;}]*)"));
+        for (auto match = fontSize.globalMatch(style); match.hasNext();)
+            addFontSize(match.next().capturedRef(1));
+        if (escapes > 0)
+            m_smallestFont = 0; // it may be there in other letters
+    }
+
+    void addFontSize(const QStringRef &text)
+    {
+        const double size = Number(text.trimmed()).value;
+        if (size > 0) {
+            m_smallestFont = std::min(m_smallestFont, size);
+            m_largestFont = std::max(m_largestFont, size);
+        }
     }
 
     void endElement()
@@ -407,6 +423,10 @@ private:
         if (m_styleParts * elements + m_classRules * m_classes / 8 + m_siblingRules * elements * elements / 300
             > SvgLimits::StyleMatches)
             return void(refuse("too many style rules"));
+        // Qt draws text large and scales it, a span in proportion. Where nothing is left of its size, each font of the
+        // system is tried.
+        if (m_hasSpans && m_smallestFont < SvgLimits::FontSize && m_smallestFont * 100 < m_largestFont)
+            return void(refuse("too small text"));
         m_totals = QVector<Total>(m_elements.size());
         const Total all = total(0, 0);
         if (m_result.verdict == SvgScan::Fine && all.text * m_longestGlyph > SvgLimits::WrittenOutBytes)
@@ -499,6 +519,9 @@ private:
     qint64 m_classes = 0;
     qint64 m_styleMoves = 0;
     qint64 m_longestDashes = 0; // the description of a pattern, which Qt compares for each shape
+    double m_smallestFont = 12; // without any size it is about this
+    double m_largestFont = 12;
+    bool m_hasSpans = false;
     int m_gradient = 0; // the last; the root before there is one
     int m_isStyle = 0;
     int m_isText = 0;

@@ -27,6 +27,7 @@ constexpr qint64 ImageTextBytes = 16 * 1024; ///< compressed, of one image
 constexpr int ImageScans = 100; ///< of a progressive JPEG
 constexpr double ClockBefore = 24 * 60 * 60 * 1000; ///< how long ago an animation may have begun, in milliseconds
 constexpr double ClockShortest = 10; ///< duration of one that has
+constexpr double FontSize = 0.5; ///< of spans in text a hundred times larger
 constexpr int GradientStops = 1000;
 constexpr qint64 StyleMatches = 10000000; ///< up to 0.15 us each
 constexpr qint64 StyleMoves = 1000000000; ///< characters moved by escapes
@@ -38,6 +39,7 @@ constexpr qint64 DashMatches = 500000000; ///< characters of the longest dash pa
 
 // Of what is painted.
 constexpr double Coordinate = 1e6; ///< in document units
+constexpr double StrokeWidth = 32768; ///< where QPen ends
 constexpr double Dashes = 100000;
 constexpr int DashPattern = 1000;
 constexpr double Outlines = 15000; ///< total length, the drawing being 1 wide or high

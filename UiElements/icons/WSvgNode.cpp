@@ -72,7 +72,7 @@ public:
 
     void drawPath(const QPainterPath &path) override
     {
-        if (!isSane)
+        if (!isSane || path.elementCount() == 0) // such as that of a circle without a radius
             return;
         WSvgNode::Shape shape;
         shape.path = state->transform().map(path);
@@ -86,10 +86,10 @@ public:
         isSane = isWithinBounds(bounds);
         if (shape.isStroked) {
             const double width = pen.widthF() * std::sqrt(std::abs(state->transform().determinant()));
+            isSane = isSane && width < SvgLimits::StrokeWidth;
             shape.pen = pen;
-            shape.pen.setWidthF(width);
+            shape.pen.setWidthF(isSane ? width : 1);
             bounds.adjust(-width / 2, -width / 2, width / 2, width / 2);
-            isSane = isSane && width <= SvgLimits::Coordinate;
         }
         add(shape, bounds);
     }

@@ -21,7 +21,6 @@ public:
 
     /// Of everything, also of what is neither filled nor stroked: an invisible box gives an icon its margins.
     QRectF bounds() const { return m_bounds; }
-    bool isEmpty() const { return m_shapes.isEmpty(); }
 
     /// Where draw() leaves marks.
     QRectF markedArea(const QRectF &rect, bool mirrored) const;

@@ -135,7 +135,7 @@ bool WSvgRenderer::isAnimated() const
 
 const WSvgNode *WSvgRenderer::getSvgNode() const
 {
-    if (!m_node || m_node->isEmpty()) {
+    if (!m_node) {
         qWarning("SVG node does not exist!");
         return nullptr;
     }

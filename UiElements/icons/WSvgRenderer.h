@@ -20,9 +20,10 @@ class WSvgNode;
 /// such a one can be animated. Title, metadata, gradients and their like are no nodes.
 ///
 /// Files may come from anywhere. A document is refused that refers to other files or to the network, that is
-/// compressed, larger than 4 MiB, nested deeper than 256 elements, refers to itself, multiplies itself by `use` or
-/// entities, or has dimensions beyond a million units: "Unable to load SVG file: ", the path and the reason in brackets
-/// are logged. No file takes longer to load than its size explains.
+/// compressed, larger than 4 MiB, has more than 50,000 elements or 10,000 characters of text, is nested deeper than 256
+/// elements, refers to itself, multiplies itself by `use` or entities, has dimensions beyond a million units or would
+/// take long to paint: "Unable to load SVG file: ", the path and the reason in brackets are logged. No file takes longer
+/// to load than its size explains.
 ///
 /// Sizes and rectangles are in device-independent pixels. GUI thread only.
 class UIELEMENTS_EXPORT WSvgRenderer : public QObject
@@ -75,7 +76,7 @@ public:
     bool updateIconResource(const QString &name);
 
     /// An icon of two resources, for the states Off and On of one mode. This renderer is left with the On file. What
-    /// cannot be loaded is an empty picture.
+    /// cannot be loaded is an empty picture; an empty name leaves the file that is loaded.
     QIcon renderIcon(const QString &offName, const QString &onName, const QSize &size, double devicePixelRatio,
                      const QColor &color, QIcon::Mode mode = QIcon::Normal);
 
