@@ -3,11 +3,14 @@
 /// The types of the signal bus that belong to the host program. The library carries their values and never looks
 /// inside.
 ///
-/// A program that has nothing of its own takes the small definitions below. A program that has its own writes one
-/// header that defines every type named here and declares each with Q_DECLARE_METATYPE, and builds all of its sources
-/// with
+/// A program that has nothing of its own takes the small definitions below. A program that has its own copies all that
+/// stands between the two `#else` into a header, changes what is its own, keeps a Q_DECLARE_METATYPE for each type, and
+/// builds all of its sources with
 ///
 ///     target_compile_definitions(program PRIVATE UIELEMENTS_HOST_TYPES_HEADER="program/HostTypes.h")
+///
+/// and with UIELEMENTS_HOST_DECLARES_STD_TYPES, if it declares std::string and std::vector<std::string> to the
+/// meta-type system itself.
 ///
 /// The library is not built again for that. This is why it works:
 ///
@@ -16,8 +19,8 @@
 /// - What is passed by value has to look to the compiler as the library expects it: an enumeration of the size of an
 ///   int. That is checked below.
 /// - Copying for queued connections, which needs the definitions, is registered by the program: every program, library
-///   or plug-in that includes this header registers the types as it sees them when it is loaded, under the names that the signals use. All of them have to see the same definitions;
-///   Qt ends the program when the sizes differ.
+///   or plug-in that includes this header registers the types as it sees them when it is loaded, under the names that
+///   the signals use. All of them have to see the same definitions; Qt ends the program when the sizes differ.
 
 #include <QMetaType>
 
@@ -160,7 +163,6 @@ inline const bool registered = registerAll();
 
 #endif // UiElements_EXPORTS
 
-// A program that declares these two itself, in its own header or elsewhere, says so by defining the macro.
 #ifndef UIELEMENTS_HOST_DECLARES_STD_TYPES
 Q_DECLARE_METATYPE(std::string)
 Q_DECLARE_METATYPE(std::vector<std::string>)

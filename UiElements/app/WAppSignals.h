@@ -35,7 +35,8 @@ class UIELEMENTS_EXPORT WAppSignals : public QObject
     Q_OBJECT
 
 public:
-    /// The identifiers of the application's keyboard shortcuts; the numbers are fixed.
+    /// The identifiers of the application's keyboard shortcuts; the numbers are fixed. Each emits the signal of its
+    /// name, ZoomInSecondary zoomIn(), and OpenSearchInSpace its signal with an empty text.
     enum class Shortcut {
         AddBitmoji = 0,
         AddGif = 1,
@@ -140,8 +141,8 @@ public:
         QKeySequence key;
         QString other; ///< who else wants the key: its description or name; empty for Desktop
     };
-    /// What a host or its tests may want to know of the keys of enabled shortcuts; two with one key are told once. Looked
-    /// at are the shortcuts and actions of the window that a shortcut is registered on.
+    /// What a host or its tests may want to know of the keys of enabled shortcuts; two with one key are told once.
+    /// Looked at are the shortcuts and actions of the window that a shortcut is registered on.
     QVector<WAppSignals::ShortcutConflict> shortcutConflicts() const;
 
 Q_SIGNALS:

@@ -27,9 +27,8 @@ class UIELEMENTS_EXPORT WApplication : public IWApplication
 
 public:
     /// Creates the signal bus, the font manager and the listener as children, in this order, gives the font families
-    /// that a desktop may lack their stand-ins, installs the application font and sets Qt::AA_UseHighDpiPixmaps, without
-    /// which a QIcon is blurred on screens of higher ratios. The arguments must outlive the
-    /// object.
+    /// that a desktop may lack their stand-ins, installs the application font and sets Qt::AA_UseHighDpiPixmaps,
+    /// without which a QIcon is blurred on screens of higher ratios. The arguments must outlive the object.
     WApplication(int &argc, char **argv);
     ~WApplication() override;
 

@@ -34,8 +34,9 @@ public:
     /// positive, or one that no memory holds.
     static QPixmap emptyPixmap(const QSize &size, double devicePixelRatio, const QColor &background);
 
-    /// The color that stands for a state of an element: disabled; pressed; hovered; focused, where that differs from
-    /// normal; checked; normal.
+    /// The color that stands for a state of an element, the first that holds: disabled (without State_Enabled); pressed
+    /// (State_Sunken); hovered (State_MouseOver); focused (State_HasFocus), where that differs from normal; checked
+    /// (State_Selected or State_On); normal.
     static QColor colorForState(const WColorSet &colors, QStyle::State state);
 
     /// The direction that a painter draws for. A painter on a widget starts with that of the application; until it is
@@ -73,8 +74,8 @@ public:
         Qt::TextElideMode elideMode = Qt::ElideRight;
         IconTextMetrics metrics; ///< iconSize and textSize are filled in
     };
-    /// Draws both in the state's colors with the font and the layoutDirection() of the painter. A text that does not fit
-    /// is elided, rich text is cut.
+    /// Draws both in the state's colors with the font and the layoutDirection() of the painter. A text that does not
+    /// fit is elided, rich text is cut.
     static void drawSvgIconText(QPainter *painter, const QRect &rect, const IconText &content, QStyle::State state);
 
     /// A frame within the rectangle, two pixels wide, with rounded corners.

@@ -12,8 +12,8 @@
 ///
 /// Each time it is painted it looks the color set up, so it follows the theme by itself; when the application announces
 /// other colors, all visible widgets are asked to paint. It is drawn in the pixels of the window, and
-/// mirrored, where the set says so, by the direction of the application: a QIcon does not know who shows it. The mode and the
-/// state of a QIcon choose the color: Disabled, Active (hovered), Selected and On (checked), Normal.
+/// mirrored, where the set says so, by the direction of the application: a QIcon does not know who shows it. The mode
+/// and the state of a QIcon choose the color: Disabled, Active (hovered), Selected and On (checked), Normal.
 class UIELEMENTS_EXPORT WSvgIconEngine : public QIconEngine
 {
 public:

@@ -22,8 +22,8 @@ class WSvgNode;
 /// Files may come from anywhere. A document is refused that refers to other files or to the network, that is
 /// compressed, larger than 4 MiB, has more than 50,000 elements or 10,000 characters of text, is nested deeper than 256
 /// elements, refers to itself, multiplies itself by `use` or entities, has dimensions beyond a million units or would
-/// take long to paint: "Unable to load SVG file: ", the path and the reason in brackets are logged. No file takes longer
-/// to load than its size explains.
+/// take long to paint: "Unable to load SVG file: ", the path and the reason in brackets are logged. No file takes
+/// longer to load than its size explains.
 ///
 /// Sizes and rectangles are in device-independent pixels. GUI thread only.
 class UIELEMENTS_EXPORT WSvgRenderer : public QObject

@@ -14,6 +14,9 @@ class QKeyEvent;
 /// Turns the keys that are pressed in one view into shortcuts of WKeySequenceLookup, and announces them here and on
 /// WGlobalSignalListener.
 ///
+/// Where a shortcut of the main window has the same key and meaning (AttachFile, InsertLink ...), the bus is not asked
+/// while the target has the focus: whoever answers passes it on, or disables it here.
+///
 /// Such a key does not reach shortcuts of the window (QShortcut, QAction, Shortcut in QML) as long as the target, or
 /// something in it, has the focus. Who comes first within the target:
 /// - Normally the element with the focus, its parents up to the target, and the target itself, with their event

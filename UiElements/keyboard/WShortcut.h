@@ -47,13 +47,12 @@ public:
     /// the key goes to the widget that has the focus.
     void temporarilyDisable(bool disable);
 
-    /// Tells the key to those who use the element: its tooltip ends in " (Ctrl+F)", and so does its accessible
-    /// description, which is the tooltip unless the element has one of its own. An empty tooltip becomes the shortcut's
-    /// description and the key. A tooltip that the host sets later gets the key too, an accessible description
-    /// with the next change of the tooltip or the key. An element shows the shortcut that
-    /// was attached last, and gets its own texts back when that is detached or dies.
-    ///
-    /// Screen readers are told the key of a themed element also as its accelerator (QAccessible::Accelerator).
+    /// Tells the key to those who use the element: its tooltip ends in " (Ctrl+F)", and so does the description that
+    /// screen readers get, which is the tooltip unless the element has an accessible description. An empty tooltip
+    /// becomes the shortcut's description and the key. A tooltip that the host sets later gets the key too, an
+    /// accessible description with the next change of the tooltip or the key. An element shows the shortcut that was
+    /// attached last, and gets its own texts back when that is detached or dies. A themed element also tells the key as
+    /// its accelerator (QAccessible::Accelerator).
     ///
     /// The key does not trigger the element: who answers the shortcut's signal does.
     void attachTo(QWidget *element);
