@@ -72,14 +72,20 @@ const QStyle::State Enabled = QStyle::State_Enabled;
 
 QByteArray svg(const QByteArray &body, int width = 16, int height = 16)
 {
-    const QByteArray box = QByteArray::number(width) + ' ' + QByteArray::number(height);
-    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 " + box
+    const QByteArray size = QByteArray::number(width) + ' ' + QByteArray::number(height);
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 " + size
         + "'>" + body + "</svg>";
 }
 
-const QByteArray Box = "<path fill='none' d='M0 0h16v16H0z'/>";
+QByteArray box()
+{
+    return "<path fill='none' d='M0 0h16v16H0z'/>";
+}
 /// Fills its left half: it shows where it is drawn, and whether it is mirrored.
-const QByteArray LeftHalf = svg("<g>" + Box + "<path d='M0 0h8v16H0z'/></g>");
+QByteArray leftHalf()
+{
+    return svg("<g>" + box() + "<path d='M0 0h8v16H0z'/></g>");
+}
 
 QImage image(double ratio, int side = 16)
 {
@@ -127,7 +133,7 @@ QImage drawn(const WSvgIcon &icon, QStyle::State state = Enabled, double ratio =
 
 void tst_Icons::initTestCase()
 {
-    write("left.svg", LeftHalf);
+    write("left.svg", leftHalf());
     write("blue.svg", svg("<path fill='blue' d='M0 0h16v16H0z'/>"));
     write("two.svg", svg("<path fill='red' d='M0 0h8v16H0z'/><path fill='blue' d='M8 0h8v16H8z'/>"));
     write("wide.svg", svg("<rect width='16' height='8' fill='red'/><rect width='1' height='1' fill='red'/>", 16, 8));
@@ -175,7 +181,7 @@ void tst_Icons::loading()
 
 void tst_Icons::sameFileTwice()
 {
-    write("changing.svg", LeftHalf);
+    write("changing.svg", leftHalf());
     WSvgRenderer renderer(file("changing.svg"));
     write("changing.svg", "nothing that could be drawn");
     QVERIFY(renderer.load(file("changing.svg")));
@@ -239,23 +245,23 @@ void tst_Icons::drawing_data()
         QTest::newRow(name) << document << rect << QString::fromLatin1(expected);
     };
     const QRectF all(0, 0, 16, 16);
-    row("as it is", LeftHalf, all, "r.r.");
-    row("into a quarter", LeftHalf, QRectF(8, 8, 8, 8), "....");
+    row("as it is", leftHalf(), all, "r.r.");
+    row("into a quarter", leftHalf(), QRectF(8, 8, 8, 8), "....");
     row("a quarter, filled", svg("<path d='M0 0h16v16H0z'/>"), QRectF(8, 8, 8, 8), "...r");
     row("fitted and centred in what is too wide", svg("<path d='M0 0h4v16H0z'/>"), QRectF(0, 0, 16, 8), "....");
     row("without a box the shape's bounds are fitted", svg("<path d='M0 0h2v2H0z'/>"), all, "rrrr");
-    row("the box gives margins", svg("<g>" + Box + "<path d='M8 8h8v8H8z'/></g>"), all, "...r");
-    row("no area", LeftHalf, QRectF(0, 0, 0, 16), "....");
+    row("the box gives margins", svg("<g>" + box() + "<path d='M8 8h8v8H8z'/></g>"), all, "...r");
+    row("no area", leftHalf(), QRectF(0, 0, 0, 16), "....");
     row("strokes are stroked, not filled",
-        svg("<g>" + Box + "<path fill='none' stroke='black' stroke-width='8' d='M4 0v16'/></g>"), all, "r.r.");
+        svg("<g>" + box() + "<path fill='none' stroke='black' stroke-width='8' d='M4 0v16'/></g>"), all, "r.r.");
     row("currentColor", svg("<path fill='currentColor' d='M0 0h16v16H0z'/>"), all, "rrrr");
     row("a gradient becomes the color",
         svg("<g><linearGradient id='g'><stop stop-color='blue'/><stop offset='1'/></linearGradient>"
             "<path fill='url(#g)' d='M0 0h16v16H0z'/></g>"),
         all, "rrrr");
-    row("use", svg("<g><g id='a'>" + Box + "<path d='M0 0h8v8H0z'/></g><use xlink:href='#a' x='8'/></g>", 16, 16),
+    row("use", svg("<g><g id='a'>" + box() + "<path d='M0 0h8v8H0z'/></g><use xlink:href='#a' x='8'/></g>", 16, 16),
         QRectF(0, 0, 16, 16), "r?..");
-    row("nothing visible", svg(Box), all, "....");
+    row("nothing visible", svg(box()), all, "....");
     row("a line has no height", svg("<path d='M0 8h16' stroke='black' stroke-width='16' fill='none'/>"), all, "rrrr");
 }
 
@@ -557,7 +563,7 @@ void tst_Icons::placesAndTransforms()
 // A stem as wide as a pixel is one row of full pixels, and its neighbours are empty.
 void tst_Icons::stems()
 {
-    write("stem.svg", svg("<g>" + Box + "<path d='M4 2h1v12H4z'/></g>"));
+    write("stem.svg", svg("<g>" + box() + "<path d='M4 2h1v12H4z'/></g>"));
     WSvgIcon icon(file("stem.svg"));
     icon.setColorSet(plainSet("a", Qt::red));
     for (int ratio : {1, 2}) {

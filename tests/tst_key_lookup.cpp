@@ -153,12 +153,14 @@ void tst_KeyLookup::tableIsSound()
         listed << names(WKeySequenceLookup::infos(group));
     QStringList all;
     QMap<QString, QVector<Shortcut>> byKey;
-    for (Shortcut shortcut : allShortcuts()) {
+    const auto shortcuts = allShortcuts();
+    for (Shortcut shortcut : shortcuts) {
         all << nameOf(shortcut);
         QCOMPARE(int(WKeySequenceLookup::group(shortcut)), int(shortcut) / 100); // the sections of the enumeration
         QVERIFY2(!WKeySequenceLookup::description(shortcut).isEmpty(), qPrintable(all.last()));
         QVERIFY2(!WKeySequenceLookup::keySequence(shortcut).isEmpty(), qPrintable(all.last()));
-        for (const QKeySequence &key : WKeySequenceLookup::keySequences(shortcut))
+        const auto keys = WKeySequenceLookup::keySequences(shortcut);
+        for (const QKeySequence &key : keys)
             byKey[key.toString()] << shortcut;
     }
     QCOMPARE(listed, all);
@@ -194,10 +196,13 @@ void tst_KeyLookup::keysAgreeWithTheMainWindow()
     QWidget window;
     bus->registerShortcuts(&window, WShortcut::ShortcutGroups(15));
     WShortcut *probe = bus->getShortcut(Id::ShowDiagnosticsDetails);
-    for (Shortcut shortcut : allShortcuts()) {
-        for (const QKeySequence &key : WKeySequenceLookup::keySequences(shortcut)) {
+    const auto shortcuts = allShortcuts();
+    for (Shortcut shortcut : shortcuts) {
+        const auto keys = WKeySequenceLookup::keySequences(shortcut);
+        for (const QKeySequence &key : keys) {
             probe->setShortcutKey(key);
-            for (const WAppSignals::ShortcutConflict &conflict : bus->shortcutConflicts()) {
+            const auto conflicts = bus->shortcutConflicts();
+            for (const WAppSignals::ShortcutConflict &conflict : conflicts) {
                 const QString what = nameOf(shortcut) + QLatin1Char(' ') + conflict.other;
                 if (conflict.shortcutId != Id::ShowDiagnosticsDetails || conflict.reason == conflict.SameKey)
                     continue;
@@ -299,7 +304,8 @@ void tst_KeyLookup::keyEvents()
     QVERIFY(event.isAutoRepeat());
     const QStringList expected = sequences.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     QStringList got;
-    for (const QKeySequence &sequence : event.keySequences()) {
+    const auto told = event.keySequences();
+    for (const QKeySequence &sequence : told) {
         got << sequence.toString();
         QVERIFY(event.matches(sequence));
         QVERIFY(!event.matches(QKeySequence(sequence[0], Qt::Key_X)));
@@ -311,8 +317,10 @@ void tst_KeyLookup::keyEvents()
 
 void tst_KeyLookup::find()
 {
-    for (Shortcut shortcut : allShortcuts()) {
-        for (const QKeySequence &sequence : WKeySequenceLookup::keySequences(shortcut)) {
+    const auto shortcuts = allShortcuts();
+    for (Shortcut shortcut : shortcuts) {
+        const auto sequences = WKeySequenceLookup::keySequences(shortcut);
+        for (const QKeySequence &sequence : sequences) {
             const int key = sequence[0] & ~Qt::KeyboardModifierMask, modifiers = sequence[0] & Qt::KeyboardModifierMask;
             const QVariantList own = {QVariant::fromValue(WKeySequenceLookup::group(shortcut))};
             QCOMPARE(WKeySequenceLookup::find(key, modifiers, 0, own), shortcut);

@@ -542,7 +542,7 @@ void tst_Shortcuts::registeredAnew()
     // The next main window, as soon as the old one says that it goes.
     QWidget next;
     connect(m_window.data(), &QObject::destroyed, this,
-            [&] { bus->registerShortcuts(&next, WShortcut::CallingAndMeeting); });
+            [bus, window = &next] { bus->registerShortcuts(window, WShortcut::CallingAndMeeting); });
     m_window.reset();
     QCOMPARE(registeredCount(), 17);
     QCOMPARE(log.take(), QStringList());

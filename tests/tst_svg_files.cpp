@@ -53,8 +53,9 @@ constexpr int slower = 10;
 constexpr int slower = 1;
 #endif
 
-const QByteArray namespaces = R"(xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" )";
-const QByteArray path = R"(<path d="M0 0h9v9z"/>)";
+const QByteArray namespaces =
+    R"(xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" )"; // clazy:exclude=non-pod-global-static
+const QByteArray path = R"(<path d="M0 0h9v9z"/>)"; // clazy:exclude=non-pod-global-static
 const QColor canaryColor(255, 0, 255);
 
 QByteArray svg(const QByteArray &body, const QByteArray &attributes = R"(viewBox="0 0 16 16")",
@@ -503,7 +504,7 @@ void tst_SvgFiles::changedAnywhere()
 
 void tst_SvgFiles::strangeFiles_data()
 {
-    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("file");
     const QString pipe = m_folder.filePath(QStringLiteral("pipe.svg"));
     QVERIFY(mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0 || errno == EEXIST);
     QTest::newRow("pipe") << pipe;
@@ -515,11 +516,11 @@ void tst_SvgFiles::strangeFiles_data()
 
 void tst_SvgFiles::strangeFiles()
 {
-    QFETCH(QString, path);
+    QFETCH(QString, file);
     WarningLog log;
     WSvgRenderer renderer;
-    QVERIFY(!renderer.load(path));
-    QCOMPARE(log.take(), QStringList(QStringLiteral("Unable to load SVG file: ") + path));
+    QVERIFY(!renderer.load(file));
+    QCOMPARE(log.take(), QStringList(QStringLiteral("Unable to load SVG file: ") + file));
 }
 
 W_TEST_MAIN(tst_SvgFiles)

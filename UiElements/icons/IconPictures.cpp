@@ -8,7 +8,7 @@
 
 #include <cmath>
 #include <cstring>
-#include <memory>
+#include <utility>
 
 namespace {
 
@@ -23,14 +23,14 @@ struct Table
     QImage scratch;
 };
 
-std::unique_ptr<Table> table;
+Table *table = nullptr; // goes with the application object
 int renderedCount = 0;
 
 Table &theTable()
 {
     if (!table) {
-        table = std::make_unique<Table>();
-        qAddPostRoutine([] { table.reset(); });
+        table = new Table;
+        qAddPostRoutine([] { delete std::exchange(table, nullptr); });
     }
     return *table;
 }

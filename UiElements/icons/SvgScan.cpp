@@ -15,23 +15,17 @@
 
 namespace {
 
-// Which elements become nodes was found by experiment with Qt 5.15: only the local name counts, whatever its namespace.
-// Every other element (title, metadata, gradients, clipPath, symbol ...) makes no node, and what is inside belongs to
-// the node around it: a path in a clipPath below the root is a child of the root. Elements inside a leaf are dropped.
-enum Kind { Nothing, Container, Leaf };
-
-Kind kindOf(const QStringRef &name)
+/// Whether the element becomes a node. Found by experiment with Qt 5.15: only the local name counts, whatever its
+/// namespace. Every other element (title, metadata, gradients, clipPath, symbol ...) makes no node, and what is inside
+/// belongs to the node around it: a path in a clipPath below the root is a child of the root.
+bool makesNode(const QStringRef &name)
 {
-    for (const char *container : {"g", "svg", "defs", "switch"}) {
-        if (name == QLatin1String(container))
-            return Container;
+    for (const char *node : {"g", "svg", "defs", "switch", "path", "circle", "ellipse", "line", "polygon", "polyline",
+                             "rect", "text", "textArea", "use", "image"}) {
+        if (name == QLatin1String(node))
+            return true;
     }
-    for (const char *leaf :
-         {"path", "circle", "ellipse", "line", "polygon", "polyline", "rect", "text", "textArea", "use", "image"}) {
-        if (name == QLatin1String(leaf))
-            return Leaf;
-    }
-    return Nothing;
+    return false;
 }
 
 /// The number at the beginning of the text as Qt reads it.
@@ -226,21 +220,16 @@ private:
         if (m_elements.size() >= SvgLimits::Elements)
             return void(refuse("too many elements"));
 
-        Kind kind = kindOf(name);
-        if (!m_nodes.isEmpty() && m_nodes.last() == Leaf)
-            kind = Nothing;
         const int index = m_elements.size();
         m_elements.append(Element());
         if (!m_open.isEmpty())
             m_elements[m_open.last().element].children.append(index);
-        readAttributes(index, name, &kind);
-
-        if (kind != Nothing && m_nodes.size() == 1)
+        const bool isNode = readAttributes(index, name) && makesNode(name);
+        if (isNode && m_nodes == 1)
             ++m_result.rootChildren;
         const bool isText = name.startsWith(QLatin1String("text")) || name == QLatin1String("tspan");
-        m_open.append({index, kind, name == QLatin1String("style"), isText});
-        if (kind != Nothing)
-            m_nodes.append(kind);
+        m_open.append({index, isNode, name == QLatin1String("style"), isText});
+        m_nodes += isNode ? 1 : 0;
         m_isStyle += m_open.last().isStyle ? 1 : 0;
         m_isText += isText ? 1 : 0;
         m_hasSpans = m_hasSpans || name == QLatin1String("tspan");
@@ -252,7 +241,8 @@ private:
             ++m_elements[m_gradient].stops;
     }
 
-    void readAttributes(int index, const QStringRef &name, Kind *kind)
+    /// False when Qt makes nothing of the element for what is in them.
+    bool readAttributes(int index, const QStringRef &name)
     {
         Element &element = m_elements[index];
         const bool isImage = name == QLatin1String("image");
@@ -279,20 +269,17 @@ private:
             m_longestGlyph = std::max(m_longestGlyph, element.bytes);
         if (name == QLatin1String("animateTransform") || name == QLatin1String("animateColor")) {
             // Qt counts in an int how often an animation that began long ago has run.
-            const double begin = clockValue(attributes.value(QLatin1String("begin")));
-            if (begin < 0
-                && (begin < -SvgLimits::ClockBefore
-                    || clockValue(attributes.value(QLatin1String("dur"))) < SvgLimits::ClockShortest))
+            if (clockValue(attributes.value(QLatin1String("begin"))) < 0
+                && clockValue(attributes.value(QLatin1String("dur"))) < SvgLimits::ClockShortest)
                 refuse("began too long ago");
         }
 
-        if (isImage || name == QLatin1String("rect")) {
-            if (!isPositiveLength(attributes.value(QLatin1String("width")), isImage)
-                || !isPositiveLength(attributes.value(QLatin1String("height")), isImage))
-                *kind = Nothing;
-        }
-        if (isImage && !checkImage(attributes.value(QLatin1String("xlink:href")).trimmed().toString()))
-            *kind = Nothing; // no node without a picture
+        const bool hasPicture =
+            !isImage || checkImage(attributes.value(QLatin1String("xlink:href")).trimmed().toString());
+        const bool hasSize = (!isImage && name != QLatin1String("rect"))
+            || (isPositiveLength(attributes.value(QLatin1String("width")), isImage)
+                && isPositiveLength(attributes.value(QLatin1String("height")), isImage));
+        return hasPicture && hasSize;
     }
 
     // Each of them, whatever its prefix: which one Qt takes differs from element to element.
@@ -383,8 +370,7 @@ private:
     void endElement()
     {
         const Open last = m_open.takeLast();
-        if (last.kind != Nothing)
-            m_nodes.removeLast();
+        m_nodes -= last.isNode ? 1 : 0;
         m_isStyle -= last.isStyle ? 1 : 0;
         m_isText -= last.isText ? 1 : 0;
     }
@@ -498,7 +484,7 @@ private:
     struct Open
     {
         int element;
-        Kind kind;
+        bool isNode;
         bool isStyle;
         bool isText;
     };
@@ -509,7 +495,6 @@ private:
     QVector<Element> m_elements;
     QVector<Total> m_totals;
     QVector<Open> m_open;
-    QVector<Kind> m_nodes; // of the open elements those that made a node; the first is the root
     QMultiHash<QString, int> m_ids;
     qint64 m_imagePixels = 0;
     qint64 m_longestGlyph = 0;
@@ -523,6 +508,7 @@ private:
     double m_largestFont = 12;
     bool m_hasSpans = false;
     int m_gradient = 0; // the last; the root before there is one
+    int m_nodes = 0; // open elements that made a node, the root among them
     int m_isStyle = 0;
     int m_isText = 0;
 };
