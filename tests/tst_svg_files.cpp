@@ -53,8 +53,7 @@ constexpr int slower = 10;
 constexpr int slower = 1;
 #endif
 
-const QByteArray namespaces =
-    R"(xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" )"; // clazy:exclude=non-pod-global-static
+constexpr char namespaces[] = R"(xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" )";
 const QByteArray path = R"(<path d="M0 0h9v9z"/>)"; // clazy:exclude=non-pod-global-static
 const QColor canaryColor(255, 0, 255);
 
