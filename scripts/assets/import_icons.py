@@ -10,11 +10,12 @@ A drawing in the folder own beside this file is an icon, too, and stands in for 
 
 Whatever is not as expected ends the import before the first file is touched.
 """
-import json
 import re
 import sys
 import xml.etree.ElementTree as ET
 from pathlib import Path
+
+from common import Fault, require_license, write_outcome
 
 PACKAGE = "@fluentui/svg-icons"
 SIZES = (12, 16, 20, 24)
@@ -24,10 +25,6 @@ SET_NAME = "Fluent UI System Icons"
 COPYRIGHT = "Copyright (c) 2020 Microsoft Corporation"
 
 SVG = "{http://www.w3.org/2000/svg}"
-
-
-class Fault(Exception):
-    pass
 
 
 def read_table(path):
@@ -139,9 +136,7 @@ inline constexpr QLatin1String mirroredIcons[] = {{
 
 
 def license_text(package, own_license):
-    stated = json.loads((package / "package.json").read_text(encoding="utf-8")).get("license")
-    if stated != "MIT":
-        raise Fault(f"{PACKAGE}: the license is {stated} and not MIT any more")
+    require_license(package, "MIT")
     title, ours, terms = own_license.read_text(encoding="utf-8").split("\n\n", 2)
     if title != "MIT License" or not ours.startswith("Copyright (c) "):
         raise Fault(f"{own_license}: not the text of the MIT license")
@@ -163,14 +158,7 @@ def main():
     except (Fault, OSError) as fault:
         sys.exit(f"Nothing is imported:\n{fault}")
 
-    for path in folder.glob("*.svg"):
-        if path not in texts:
-            path.unlink()
-    for path, text in texts.items():
-        # What stays the same keeps its time, so that nothing is built anew because of it.
-        if not path.exists() or path.read_text(encoding="utf-8") != text:
-            path.parent.mkdir(parents=True, exist_ok=True)
-            path.write_text(text, encoding="utf-8")
+    write_outcome(texts, (folder, "*.svg"))
     print(f"       {len(icons)} icons, {sum(map(len, icons.values()))} bytes")
 
 
