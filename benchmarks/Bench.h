@@ -76,6 +76,8 @@ Sample repeated(int times, Function function)
 
 Subject bus();
 Subject busStartup();
+Subject emojiCatalogue();
+Subject emojiText();
 std::vector<Subject> icons(); ///< one for each size and ratio
 Subject shortcuts();
 Subject startup();
