@@ -1,0 +1,1 @@
+#include <UiElements/models/EmptyStateBaseListModel.h>

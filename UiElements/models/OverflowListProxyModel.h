@@ -1,0 +1,42 @@
+#pragma once
+
+#include <UiElements/uielements_export.h>
+
+#include <QSortFilterProxyModel>
+
+#include <array>
+
+/// The rows of a list that did not fit where they are shown, for the menu behind them: all rows after row number
+/// firstVisibleIndex of the source.
+class UIELEMENTS_EXPORT OverflowListProxyModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int firstVisibleIndex READ firstVisibleIndex WRITE setFirstVisibleIndex NOTIFY firstVisibleIndexChanged)
+    Q_PROPERTY(QString header READ header WRITE setHeader NOTIFY headerChanged)
+
+public:
+    explicit OverflowListProxyModel(QObject *parent = nullptr);
+    OverflowListProxyModel(int firstVisibleIndex, QObject *parent);
+
+    int firstVisibleIndex() const { return m_firstVisibleIndex; }
+    void setFirstVisibleIndex(int index); ///< the row of this number is the last one that is hidden
+    QString header() const { return m_header; }
+    void setHeader(const QString &header);
+
+    void setSourceModel(QAbstractItemModel *model) override;
+    Q_INVOKABLE void unsetSourceModel();
+
+Q_SIGNALS:
+    void firstVisibleIndexChanged();
+    void headerChanged();
+
+protected:
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    void onSourceRowsShifted(const QModelIndex &parent, int first);
+
+    int m_firstVisibleIndex = 0;
+    QString m_header;
+    std::array<QMetaObject::Connection, 2> m_connections;
+};
