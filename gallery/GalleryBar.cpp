@@ -1,10 +1,10 @@
 #include "GalleryBar.h"
 
-#include "FlowLayout.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "PlainParts.h"
 
+#include <UiElements/layouts/FlowLayout.h>
 #include <UiElements/widgets/WSlider.h>
 
 #include <QComboBox>

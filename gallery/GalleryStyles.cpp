@@ -258,6 +258,12 @@ QString GalleryStyles::splitter()
         + partRules(QStringLiteral("QSplitter::handle"), {"background-color: splitter-handle-background"});
 }
 
+QString GalleryStyles::grip()
+{
+    return QStringLiteral("$backgroundColors: scrollbar-handle-background; $borders: none; $borderRadius: 3;\n"
+                          "WFrame:focus { border: 2px solid $(outline-focus.normal); }");
+}
+
 QString GalleryStyles::stackedWidget()
 {
     return QStringLiteral("$backgroundColors: background-secondary; $borderColors: outline-primary; $borders: all; "
@@ -411,6 +417,17 @@ QTabBar::tab:focus { border-color: $(outline-focus.normal); border-radius: 6px; 
 QTabBar::tab:disabled { color: $(qx-underlineButton-text.disabled); }
 )")
         + partRules(QStringLiteral("QToolButton"),
+                    {"background-color: button-ghost-background", "border-color: button-ghost-border",
+                     "color: button-ghost-text"});
+}
+
+QString GalleryStyles::toolBar()
+{
+    return QStringLiteral("background: transparent; border: none;\n"
+                          "QPushButton { border-style: solid; border-width: 1px; border-radius: 6px; "
+                          "padding: 5px 9px; }\n"
+                          "QPushButton:focus { border-width: 2px; padding: 4px 8px; }\n")
+        + partRules(QStringLiteral("QPushButton"),
                     {"background-color: button-ghost-background", "border-color: button-ghost-border",
                      "color: button-ghost-text"});
 }

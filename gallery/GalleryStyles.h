@@ -29,6 +29,8 @@ QString dialog();
 QString mainWindow();
 QString splitter();
 QString stackedWidget();
+/// Where a SizedFrame is taken to be made wider or narrower.
+QString grip();
 QString itemView();
 QString textField();
 QString codeField();
@@ -41,5 +43,7 @@ QString menu();
 QString menuWithIcons();
 /// Tool bars, tool buttons and tabs, for what they stand in.
 QString iconBars();
+/// A bar of push buttons that are as quiet as tool buttons.
+QString toolBar();
 
 } // namespace GalleryStyles

@@ -3,8 +3,11 @@
 #include "pages/ChoicesPage.h"
 #include "pages/ColorsPage.h"
 #include "pages/DateTimePage.h"
+#include "pages/EmojiPage.h"
 #include "pages/IconsPage.h"
+#include "pages/LayoutsPage.h"
 #include "pages/ListsPage.h"
+#include "pages/ModelsPage.h"
 #include "pages/OverviewPage.h"
 #include "pages/ShortcutsPage.h"
 #include "pages/TemplatesPage.h"
@@ -33,6 +36,8 @@ const QVector<PageEntry> &allPages()
         page<OverviewPage>("overview", "Overview"),
         page<WindowsPage>("windows", "Windows and frames"),
         page<ListsPage>("lists", "Lists and trees"),
+        page<ModelsPage>("models", "Models"),
+        page<LayoutsPage>("layouts", "Layouts"),
         page<TextPage>("text", "Text"),
         page<DateTimePage>("datetime", "Date and time"),
         page<ChoicesPage>("choices", "Choices and values"),
@@ -40,6 +45,7 @@ const QVector<PageEntry> &allPages()
         page<ThemeTypesPage>("themetypes", "Theme types"),
         page<TypePage>("type", "Type"),
         page<IconsPage>("icons", "Icons"),
+        page<EmojiPage>("emoji", "Emoji"),
         page<ColorsPage>("colors", "Colors"),
         page<TemplatesPage>("templates", "Templates"),
     };

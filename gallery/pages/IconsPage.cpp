@@ -1,6 +1,5 @@
 #include "IconsPage.h"
 
-#include "FlowLayout.h"
 #include "GalleryStyles.h"
 #include "IconGrid.h"
 #include "IconModel.h"
@@ -12,6 +11,7 @@
 #include "SearchField.h"
 
 #include <UiElements/icons/WSvgIconEngine.h>
+#include <UiElements/layouts/FlowLayout.h>
 #include <UiElements/widgets/WMenu.h>
 
 #include <QComboBox>
@@ -50,6 +50,7 @@ Label *caption(const QString &text)
 QWidget *named(const QString &name, QWidget *field)
 {
     auto *all = new QWidget;
+    all->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto *column = new QVBoxLayout(all);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
@@ -135,12 +136,13 @@ void IconsPage::addSet()
 QWidget *IconsPage::makeChoices()
 {
     auto *all = new QWidget;
-    all->setLayout(new FlowLayout(16, 8));
+    auto *flow = new FlowLayout(16, 8, all);
+    flow->setContentsMargins(0, 0, 0, 0);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     all->setSizePolicy(policy);
-    const auto add = [all](const QString &name, QWidget *field) {
-        all->layout()->addWidget(named(name, field));
+    const auto add = [flow](const QString &name, QWidget *field) {
+        flow->addWidget(named(name, field));
     };
 
     auto *search = new SearchField(tr("Words of a name: arrow left"));

@@ -1,11 +1,11 @@
 #include "OverviewPage.h"
 
-#include "FlowLayout.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "PageRegistry.h"
 #include "PlainParts.h"
 
+#include <UiElements/layouts/FlowLayout.h>
 #include <UiElements/theme/WThemeUtils.h>
 #include <UiElements/widgets/WListWidget.h>
 #include <UiElements/widgets/WProgressBar.h>
@@ -139,8 +139,8 @@ void OverviewPage::addLinks()
 {
     WFrame *card = addCard(tr("Look around"), tr("Each page shows one family of elements in its six states."));
     auto *links = new QWidget;
-    auto *flow = new FlowLayout(8, 8);
-    links->setLayout(flow);
+    auto *flow = new FlowLayout(8, 8, links);
+    flow->setContentsMargins(0, 0, 0, 0);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     links->setSizePolicy(policy);

@@ -1,7 +1,6 @@
 #include "ShortcutsPage.h"
 
 #include "BusMonitor.h"
-#include "FlowLayout.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "PlainParts.h"
@@ -12,6 +11,7 @@
 #include <UiElements/app/WFontManager.h>
 #include <UiElements/app/WScaledFonts.h>
 #include <UiElements/keyboard/WKeySequenceInfo.h>
+#include <UiElements/layouts/FlowLayout.h>
 #include <UiElements/theme/WThemeUtils.h>
 #include <UiElements/widgets/WListView.h>
 
