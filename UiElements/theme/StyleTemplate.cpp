@@ -3,6 +3,7 @@
 
 #include <QDebug>
 #include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -27,6 +28,49 @@ constexpr WColorSet::State RuleOrderFocusHidden[] = {WColorSet::Normal,  WColorS
 const char NotUnderstood[] = "WThemeUtils: directive is not understood as a whole:";
 
 const QLatin1String GradientMarker("gradient-background-");
+
+QString withSelectors(const QString &text, const std::vector<int> &cuts, const QString &selector)
+{
+    QString result(text.size() + int(cuts.size()) * selector.size(), Qt::Uninitialized);
+    QChar *out = result.data();
+    const auto copy = [&out](const QChar *from, int size) {
+        std::memcpy(out, from, std::size_t(size) * sizeof(QChar));
+        out += size;
+    };
+    int from = 0;
+    for (const int cut : cuts) {
+        copy(text.constData() + from, cut - from);
+        copy(selector.constData(), selector.size());
+        from = cut;
+    }
+    copy(text.constData() + from, text.size() - from);
+    return result;
+}
+
+// Makes one rule of two that follow each other and have nothing but the selector in front of the brace.
+void joinRules(QString *text, std::vector<int> *cuts)
+{
+    static const QRegularExpression rule(QStringLiteral("\\A\\{[^{}\"'/]*;\\s*\\}\\s*\\z"));
+    QString joined;
+    std::vector<int> left;
+    int from = 0;
+    for (std::size_t i = 0; i < cuts->size(); ++i) {
+        const int cut = (*cuts)[i];
+        const bool isRule = text->midRef(cut, 1) == QLatin1String("{");
+        const QString before = i > 0 ? text->mid((*cuts)[i - 1], cut - (*cuts)[i - 1]) : QString();
+        joined += text->midRef(from, cut - from);
+        from = cut;
+        if (isRule && rule.match(before).hasMatch()) {
+            joined.truncate(joined.lastIndexOf(QLatin1Char('}')));
+            from = cut + 1;
+        } else {
+            left.push_back(joined.size());
+        }
+    }
+    joined += text->midRef(from);
+    *text = joined;
+    *cuts = left;
+}
 
 } // namespace
 
@@ -378,6 +422,7 @@ void StyleTemplate::writeDirectives()
             addLiteral(QStringLiteral("); } "));
         }
         m_ops.push_back({Op::StateRules, qint8(marker >= 0 ? 1 : 0), i, 0});
+        m_hasStateRules = true;
         for (int state = marker >= 0 ? 1 : 0; state < WColorSet::StateCount; ++state) {
             ++m_colorCount;
             m_literalLength += int(qstrlen(PseudoStates[state]) + qstrlen(ColorProperties[i])) + 4; // "{", ";} "
@@ -468,8 +513,21 @@ const StyleTemplate::Resolved &StyleTemplate::resolve(const ColorTable &table) c
         recent.complete = recent.complete && (recent.index[i] >= 0 || m_setNames[i].empty());
     }
     recent.generation = table.generation();
+    const QString before = recent.text;
+    const std::vector<int> cutsBefore = recent.cuts;
     fill(&recent, table);
+    static quint64 contents = 0;
+    const Resolved &other = m_resolved[1];
+    if (other.content != 0 && other.text == recent.text && other.cuts == recent.cuts)
+        recent.content = other.content;
+    else if (recent.content == 0 || before != recent.text || cutsBefore != recent.cuts)
+        recent.content = ++contents;
     return recent;
+}
+
+quint64 StyleTemplate::contentFor(const ColorTable &table) const
+{
+    return m_twoPasses ? 0 : resolve(table).content;
 }
 
 // The index is a copy: whoever receives the messages may have this template expanded against another table.
@@ -530,34 +588,38 @@ QString StyleTemplate::expand(const QString &selector, const ColorTable &table) 
     if (m_twoPasses)
         return withTokensReplaced(table).expand(selector, table);
     const Resolved &resolved = resolve(table);
-    QString result(resolved.text.size() + int(resolved.cuts.size()) * selector.size(), Qt::Uninitialized);
-    QChar *out = result.data();
-    const QChar *const text = resolved.text.constData();
-    const QChar *const name = selector.constData();
-    const auto nameLength = std::size_t(selector.size());
-    int from = 0;
-    for (const int cut : resolved.cuts) {
-        std::memcpy(out, text + from, std::size_t(cut - from) * sizeof(QChar));
-        out += cut - from;
-        std::memcpy(out, name, nameLength * sizeof(QChar));
-        out += nameLength;
-        from = cut;
-    }
-    std::memcpy(out, text + from, std::size_t(resolved.text.size() - from) * sizeof(QChar));
+    const QString result = withSelectors(resolved.text, resolved.cuts, selector);
     if (m_troubled || !resolved.complete)
         report(resolved.index);
     return result;
 }
 
+QString StyleTemplate::expandNormal(const QString &selector, const ColorTable &table) const
+{
+    if (m_twoPasses || !m_hasStateRules)
+        return QString();
+    const Resolved &resolved = resolve(table);
+    return withSelectors(resolved.normalText, resolved.normalCuts, selector);
+}
+
 void StyleTemplate::fill(Resolved *target, const ColorTable &table) const
 {
-    const Resolved &resolved = *target;
+    write(table, target->index, false, &target->text, &target->cuts);
+    if (m_hasStateRules) {
+        write(table, target->index, true, &target->normalText, &target->normalCuts);
+        joinRules(&target->normalText, &target->normalCuts);
+    }
+}
+
+void StyleTemplate::write(const ColorTable &table, const std::vector<int> &indices, bool isNormalOnly, QString *target,
+                          std::vector<int> *cuts) const
+{
     QString result(m_literalLength + m_colorCount * ColorTable::HexLength, Qt::Uninitialized);
     auto *const begin = reinterpret_cast<char16_t *>(result.data());
     auto *out = begin;
-    target->cuts.clear();
+    cuts->clear();
     const auto cut = [&] {
-        target->cuts.push_back(int(out - begin));
+        cuts->push_back(int(out - begin));
     };
     const auto copy = [&out](const void *text, int length) {
         std::memcpy(out, text, std::size_t(length) * sizeof(char16_t));
@@ -568,7 +630,7 @@ void StyleTemplate::fill(Resolved *target, const ColorTable &table) const
             *out++ = char16_t(*text++);
     };
     const auto color = [&](int set, int state) {
-        const int index = resolved.index[std::size_t(set)];
+        const int index = indices[std::size_t(set)];
         const bool known = index >= 0 && state >= 0;
         copy((known ? table.at(index) : ColorTable::unknown()).hex[known ? state : 0], ColorTable::HexLength);
     };
@@ -578,10 +640,10 @@ void StyleTemplate::fill(Resolved *target, const ColorTable &table) const
         case Op::Selector: cut(); break;
         case Op::Color: color(op.a, op.state); break;
         case Op::StateRules: {
-            const int index = resolved.index[std::size_t(m_directiveSet[op.a])];
+            const int index = indices[std::size_t(m_directiveSet[op.a])];
             const bool focusShows = index >= 0 && table.at(index).focusShows;
             for (const WColorSet::State state : focusShows ? RuleOrder : RuleOrderFocusHidden) {
-                if (state < op.state)
+                if (state < op.state || (isNormalOnly && state != WColorSet::Normal))
                     continue; // the normal state of a gradient is written already
                 cut();
                 latin1(PseudoStates[state]);
@@ -594,5 +656,6 @@ void StyleTemplate::fill(Resolved *target, const ColorTable &table) const
         }
         }
     }
-    target->text = result;
+    result.resize(int(out - begin));
+    *target = result;
 }

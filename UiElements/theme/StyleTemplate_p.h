@@ -42,6 +42,15 @@ public:
     /// Writes the style sheet for the selector and reports, once for each place, what the template asks for in vain.
     QString expand(const QString &selector, const ColorTable &table) const;
 
+    /// The same without the rules that the color directives write for other states than normal, and with as few rules
+    /// as possible: all that Qt needs of a widget that is in no such state, and half of the work. Nothing if there are
+    /// no such rules, or the template is one of needsTwoPasses().
+    QString expandNormal(const QString &selector, const ColorTable &table) const;
+
+    /// Differs between any two texts that one template has been expanded to for one selector. Equal colors in another
+    /// table give the number that they had before. 0 for the templates of needsTwoPasses(), which are not remembered.
+    quint64 contentFor(const ColorTable &table) const;
+
     /// The color sets that an expansion looks up.
     const std::vector<std::string> &setNames() const { return m_setNames; }
 
@@ -86,10 +95,13 @@ private:
     struct Resolved
     {
         quint64 generation = 0;
+        quint64 content = 0;
         std::vector<int> index; ///< for each of m_setNames its index in the table, -1 unknown
         bool complete = false;
         QString text; ///< everything but the selectors
         std::vector<int> cuts; ///< where in text they go
+        QString normalText; ///< of expandNormal()
+        std::vector<int> normalCuts;
     };
 
     QString readTokens(const QString &css);
@@ -105,6 +117,8 @@ private:
     void addSelector();
     void addColor(int set, int state);
     void fill(Resolved *target, const ColorTable &table) const;
+    void write(const ColorTable &table, const std::vector<int> &index, bool isNormalOnly, QString *text,
+               std::vector<int> *cuts) const;
     const Resolved &resolve(const ColorTable &table) const;
     void report(std::vector<int> index) const;
 
@@ -119,6 +133,7 @@ private:
     int m_gradientSet[2] = {-1, -1};
     std::vector<std::pair<const char *, QString>> m_faults; ///< message and directive
     int m_literalLength = 0, m_colorCount = 0;
+    bool m_hasStateRules = false;
     bool m_troubled = false; ///< there is something to report whatever the sets are
     bool m_twoPasses = false;
     mutable Resolved m_resolved[2]; ///< a widget switches between at most two registries

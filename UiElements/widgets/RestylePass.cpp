@@ -4,24 +4,48 @@
 
 #include <UiElements/app/IWApplication.h>
 
-#include <QPointer>
-#include <QWidget>
-
-#include <vector>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
-void collect(QWidget *widget, std::vector<QPointer<QWidget>> *themed)
+// With the windows that belong to others: their sheets cascade too.
+void collect(QWidget *widget, std::vector<ThemeSupport *> *themed)
 {
-    if (ThemeSupport::of(widget))
-        themed->emplace_back(widget);
+    if (ThemeSupport *support = ThemeSupport::of(widget))
+        themed->push_back(support);
     for (QObject *child : widget->children()) {
-        if (child->isWidgetType() && !static_cast<QWidget *>(child)->isWindow())
+        if (child->isWidgetType())
             collect(static_cast<QWidget *>(child), themed);
     }
 }
 
+// Those whose turn is still to come, of each pass: a slot may start another one.
+std::vector<std::vector<ThemeSupport *> *> &runningPasses()
+{
+    static std::vector<std::vector<ThemeSupport *> *> passes;
+    return passes;
+}
+
+struct Scopes
+{
+    int open = 0;
+    std::vector<QPointer<QWidget>> left;
+    RestyleReport counts;
+    RestyleReport last;
+};
+Scopes &scopes()
+{
+    static Scopes all;
+    return all;
+}
+
 } // namespace
+
+RestyleReport RestyleReport::last()
+{
+    return scopes().last;
+}
 
 RestylePass::RestylePass(QObject *parent)
     : QObject(parent)
@@ -40,12 +64,132 @@ void RestylePass::ensure()
 
 void RestylePass::run()
 {
-    std::vector<QPointer<QWidget>> themed;
+    const RestyleScope scope(RestyleScope::Whole);
+    std::vector<ThemeSupport *> themed;
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        collect(window, &themed);
-    for (const QPointer<QWidget> &widget : themed) {
-        if (ThemeSupport *support = widget ? ThemeSupport::of(widget) : nullptr)
-            support->answerThemeChange();
+    for (QWidget *window : windows) {
+        if (!window->parentWidget())
+            collect(window, &themed);
     }
+    runningPasses().push_back(&themed);
+    for (std::size_t i = 0; i < themed.size(); ++i) {
+        if (themed[i])
+            themed[i]->answerThemeChange();
+    }
+    runningPasses().pop_back();
+}
+
+void RestylePass::forget(const ThemeSupport *support)
+{
+    for (std::vector<ThemeSupport *> *themed : runningPasses())
+        std::replace(themed->begin(), themed->end(), const_cast<ThemeSupport *>(support),
+                     static_cast<ThemeSupport *>(nullptr));
+}
+
+RestyleScope::RestyleScope(Purpose purpose)
+    : m_purpose(purpose)
+{
+    if (scopes().open++ == 0)
+        m_time.start();
+}
+
+RestyleScope::~RestyleScope()
+{
+    Scopes &all = scopes();
+    if (all.open > 1) {
+        --all.open;
+        return;
+    }
+    // More may come while these are polished.
+    for (std::size_t i = 0; i < all.left.size(); ++i) {
+        const QPointer<QWidget> widget = all.left[i];
+        if (ThemeSupport *support = widget ? ThemeSupport::of(widget) : nullptr)
+            support->polishIfNeeded();
+    }
+    all.left.clear();
+    all.open = 0;
+    all.counts.microseconds = m_time.nsecsElapsed() / 1000;
+    const RestyleReport report = std::exchange(all.counts, {});
+    if (m_purpose == Whole)
+        all.last = report;
+}
+
+bool RestyleScope::isOpen()
+{
+    return scopes().open > 0;
+}
+
+void RestyleScope::add(QWidget *widget)
+{
+    scopes().left.emplace_back(widget);
+}
+
+void RestyleScope::count(int RestyleReport::*number)
+{
+    if (isOpen())
+        ++(scopes().counts.*number);
+}
+
+StyledBelow::StyledBelow(QWidget *widget)
+{
+    takeFrom(widget);
+}
+
+StyledBelow::~StyledBelow()
+{
+    for (const Children &children : m_lists) {
+        if (!children.parent)
+            continue;
+        auto &now = const_cast<QObjectList &>(children.parent->children());
+        now = merged(children);
+    }
+}
+
+void StyledBelow::takeFrom(QWidget *parent)
+{
+    const QObjectList all = parent->children();
+    const std::size_t first = m_widgets.size();
+    QObjectList kept;
+    for (QObject *object : all) {
+        auto *child = object->isWidgetType() ? static_cast<QWidget *>(object) : nullptr;
+        if (child && ThemeSupport::of(child) && !child->styleSheet().isEmpty())
+            m_widgets.emplace_back(child);
+        else
+            kept.append(object);
+    }
+    const std::size_t end = m_widgets.size();
+    for (QObject *object : qAsConst(kept)) {
+        if (object->isWidgetType() && !object->children().isEmpty())
+            takeFrom(static_cast<QWidget *>(object));
+    }
+    if (first == end)
+        return;
+    m_lists.push_back({parent, all, kept, first, end});
+    const_cast<QObjectList &>(parent->children()) = kept;
+}
+
+// As it was, but for what came and went meanwhile.
+QObjectList StyledBelow::merged(const Children &children) const
+{
+    const QObjectList &now = children.parent->children();
+    bool isUntouched = now.isSharedWith(children.kept);
+    for (std::size_t i = children.firstTaken; isUntouched && i < children.endTaken; ++i)
+        isUntouched = m_widgets[i] && m_widgets[i]->parent() == children.parent;
+    if (isUntouched)
+        return children.all;
+    QObjectList list;
+    for (QObject *object : children.all) {
+        const bool isTaken =
+            std::any_of(m_widgets.begin() + std::ptrdiff_t(children.firstTaken),
+                        m_widgets.begin() + std::ptrdiff_t(children.endTaken), [&](const QPointer<QWidget> &widget) {
+                            return widget == object && widget->parent() == children.parent;
+                        });
+        if (isTaken || now.contains(object))
+            list.append(object);
+    }
+    for (QObject *object : now) {
+        if (!list.contains(object))
+            list.append(object);
+    }
+    return list;
 }

@@ -1,6 +1,16 @@
 #pragma once
 
+#include <UiElements/widgets/RestyleReport.h>
+
+#include <QElapsedTimer>
+#include <QList>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+class ThemeSupport;
 
 /// Restyles the themed widgets of the whole application after its colors changed.
 ///
@@ -18,6 +28,66 @@ public:
     /// another template meanwhile: a destroyed one is passed over, a new one has the new colors already.
     void run();
 
+    /// To be told of each that is destroyed: a pass that is on its way passes it over.
+    static void forget(const ThemeSupport *support);
+
 private:
     explicit RestylePass(QObject *parent);
+};
+
+/// Qt's setStyleSheet() polishes all that is below the widget, twice, and in a window in which most widgets have a
+/// sheet of their own a switch of the theme polishes each of them once for every ancestor, twice. While a scope is
+/// open, a widget that gets other colors leaves the styled widgets below it alone, and those are polished in their own
+/// turn; what has had none when the outermost scope closes is polished then.
+///
+/// What is hidden waits until it is shown.
+class RestyleScope
+{
+public:
+    enum Purpose { Part, Whole }; ///< whether the outermost one is told by RestyleReport::last()
+    explicit RestyleScope(Purpose purpose = Part);
+    ~RestyleScope();
+    RestyleScope(const RestyleScope &) = delete;
+    RestyleScope &operator=(const RestyleScope &) = delete;
+
+    static bool isOpen();
+    /// To be polished before the outermost scope closes.
+    static void add(QWidget *widget);
+    /// One more of these in the report of the outermost scope.
+    static void count(int RestyleReport::*number);
+
+private:
+    const Purpose m_purpose;
+    QElapsedTimer m_time;
+};
+
+/// Takes the styled widgets below one out of the lists of children, through plain widgets, and puts them back when it
+/// is destroyed. The plain ones stay: Qt polishes them, and its style looks for some of them, such as the line edit of
+/// a spin box, among the children.
+///
+/// This is the only way to reach it: which widgets are polished is not to be asked of Qt otherwise.
+class StyledBelow
+{
+public:
+    explicit StyledBelow(QWidget *widget);
+    ~StyledBelow();
+    StyledBelow(const StyledBelow &) = delete;
+    StyledBelow &operator=(const StyledBelow &) = delete;
+
+    const std::vector<QPointer<QWidget>> &widgets() const { return m_widgets; }
+
+private:
+    struct Children
+    {
+        QPointer<QWidget> parent;
+        QObjectList all;
+        QObjectList kept;
+        std::size_t firstTaken;
+        std::size_t endTaken;
+    };
+    void takeFrom(QWidget *parent);
+    QObjectList merged(const Children &children) const;
+
+    std::vector<Children> m_lists;
+    std::vector<QPointer<QWidget>> m_widgets;
 };

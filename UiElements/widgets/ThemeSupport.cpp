@@ -15,12 +15,13 @@
 #include <QEvent>
 #include <QFrame>
 #include <QHash>
+#include <QLabel>
 #include <QLayout>
 #include <QPointer>
 #include <QStyle>
 #include <QWidget>
 
-#include <optional>
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -92,30 +93,52 @@ void collectBelowPlain(const QWidget *widget, bool throughPlain, std::vector<QPo
 class ThemeSupport::Private
 {
 public:
-    Private(QWidget *w, const Hooks *h)
-        : widget(w)
+    Private(ThemeSupport *s, QWidget *w, const Hooks *h)
+        : support(*s)
+        , widget(w)
         , hooks(h)
     {
     }
 
+    WThemeUtils::AppThemeType effectiveType() const;
     void followParent();
     void announceThemeType();
     void noticeThemeType();
     void take(const StyleTemplate::Directives &directives);
+    void expandInTwoPasses(const ColorTable &table);
+    bool isUpToDate(const StyleTemplate *from, quint64 content) const;
+    void give(const QString &text, bool isOnlyColors);
+    void giveColors();
+    void showNewColors();
+    void setSheetOfThisOnly(const QString &sheet);
+    bool canBeShort() const;
+    bool isInNormalState() const;
+    bool hasToWait() const { return isPolished && !widget->isVisible(); }
 
+    ThemeSupport &support;
     QWidget *const widget;
     const Hooks *const hooks;
     bool attached = false;
 
     QString css;
     std::shared_ptr<const StyleTemplate> source; // of css, once it was expanded
+    // What was expanded last: from which template, and what came of it. Empty: nothing came of any so far.
+    std::shared_ptr<const StyleTemplate> expanded;
+    quint64 content = 0;
+    QString text;
+    QString shortText; // what Qt's style engine is told instead, if anything
+    bool isWaiting = false; // to be given to Qt
+    bool isAncestorNewer = false; // than what the widget was polished with
+    bool isPolished = false; // was shown, or measured
+    bool isGettingColors = false;
+
     QString colorSetNames[3];
     QString trailingText;
     int borderWidth = 0;
     int borderRadius = 0;
     bool hasFocusProperties = false;
     bool drawsOwnBox = false;
-    QString themeType = QStringLiteral("global");
+    WThemeUtils::AppThemeType ownType = WThemeUtils::AppThemeTypeGlobal;
     WThemeUtils::AppThemeType shownType = WThemeUtils::AppThemeTypeGlobal;
 
     WFont::Token fontToken = WFont::Default;
@@ -129,10 +152,11 @@ public:
     QMetaObject::Connection parentConnection;
     QMetaObject::Connection fontConnection;
     QPointer<WScaledFonts> scaledFonts;
+    QFont givenFont, resultingFont;
 };
 
 ThemeSupport::ThemeSupport(QWidget *widget, const Hooks *hooks)
-    : d(std::make_unique<Private>(widget, hooks))
+    : d(std::make_unique<Private>(this, widget, hooks))
 {
     supports().insert(widget, this);
 }
@@ -140,6 +164,7 @@ ThemeSupport::ThemeSupport(QWidget *widget, const Hooks *hooks)
 ThemeSupport::~ThemeSupport()
 {
     supports().remove(d->widget);
+    RestylePass::forget(this);
     QObject::disconnect(d->nameConnection);
     QObject::disconnect(d->fontConnection);
 }
@@ -165,15 +190,30 @@ void ThemeSupport::attach()
     ThemedAccessible::install();
     if (hasEarlyInterface(d->widget))
         ThemedAccessible::replaceEarlyInterface(d->widget);
-    d->nameConnection =
-        QObject::connect(d->widget, &QObject::objectNameChanged, d->widget, [this] { setCss(QString(d->css)); });
+    d->nameConnection = QObject::connect(d->widget, &QObject::objectNameChanged, d->widget, [this] {
+        d->expanded.reset();
+        setCss(QString(d->css));
+    });
     // By name: the slots are those of the widget's own class, which this code does not know.
     QObject::connect(qApp, SIGNAL(layoutDirectionChanged(Qt::LayoutDirection)), d->widget,
                      SLOT(onLayoutDirectionChanged()));
     QObject::connect(d->widget, SIGNAL(themeTypeChanged()), d->widget, SLOT(onThemeChanged()));
     d->followParent();
-    d->shownType = WThemeUtils::getThemeTypeOfWidget(d->widget);
+    d->shownType = d->effectiveType();
     applyFont();
+}
+
+// The same as WThemeUtils::getThemeTypeOfWidget(), without a look-up by name for most.
+WThemeUtils::AppThemeType ThemeSupport::Private::effectiveType() const
+{
+    const QWidget *window = widget->window();
+    if (ownType != WThemeUtils::AppThemeTypeGlobal || window == widget)
+        return ownType;
+    if (const ThemeSupport *other = ThemeSupport::of(window))
+        return other->d->ownType;
+    // A plain window may have the property all the same.
+    const bool hasOne = window->metaObject() != &QWidget::staticMetaObject || !window->dynamicPropertyNames().isEmpty();
+    return hasOne ? WThemeUtils::getThemeTypeOfWidget(window) : WThemeUtils::AppThemeTypeGlobal;
 }
 
 void ThemeSupport::Private::followParent()
@@ -202,9 +242,27 @@ void ThemeSupport::Private::take(const StyleTemplate::Directives &directives)
     hasFocusProperties = directives.focusRadius;
 }
 
-void ThemeSupport::follow(QEvent *event)
+bool ThemeSupport::follow(QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::Polish: d->isPolished = true; break;
+    case QEvent::StyleChange: return d->isGettingColors;
+    case QEvent::Paint:
+        // Of a picture that is taken of a hidden widget.
+        if (!d->shortText.isEmpty() && !d->isInNormalState()) {
+            d->shortText.clear();
+            d->isAncestorNewer = true;
+        }
+        if (d->isWaiting || d->isAncestorNewer)
+            d->giveColors();
+        break;
+    case QEvent::ChildAdded:
+        // Rules for a class hold for what is inside, too, and that has states of its own.
+        if (!d->shortText.isEmpty()) {
+            d->shortText.clear();
+            d->giveColors();
+        }
+        break;
     case QEvent::ParentChange:
         if (!d->attached)
             break;
@@ -217,9 +275,12 @@ void ThemeSupport::follow(QEvent *event)
         // A plain ancestor may have moved to another window, of which nothing below it is told.
         if (d->attached)
             d->noticeThemeType();
+        if (d->isWaiting || d->isAncestorNewer)
+            d->showNewColors();
         break;
     default: break;
     }
+    return false;
 }
 
 void ThemeSupport::setDrawsOwnBox()
@@ -247,25 +308,148 @@ void ThemeSupport::refresh()
 {
     if (!d->source)
         return;
-    d->shownType = WThemeUtils::getThemeTypeOfWidget(d->widget);
+    d->shownType = d->effectiveType();
     // Held: whoever receives the messages may replace the application's color sets.
     const std::shared_ptr<const ColorTable> table = WThemeUtilsPrivate::colorTable(d->shownType);
     const auto source = d->source; // a slot may set another template meanwhile
-    std::optional<StyleTemplate> replaced;
-    if (source->needsTwoPasses())
-        replaced.emplace(source->withTokensReplaced(*table));
-    const StyleTemplate &final = replaced ? *replaced : *source;
-    const QString text = final.expand(WThemeUtilsPrivate::selectorOf(d->widget), *table);
-    d->take(final.directives());
+    if (source->needsTwoPasses()) {
+        d->expandInTwoPasses(*table);
+        return;
+    }
+    const quint64 content = source->contentFor(*table);
+    if (d->isUpToDate(source.get(), content)) {
+        RestyleScope::count(&RestyleReport::unchanged);
+        d->hooks->cssChanged(d->widget);
+        return;
+    }
+    // Unless somebody gave the widget another sheet, past this class.
+    const bool isOnlyColors = d->expanded == source && (d->isWaiting || d->widget->styleSheet() == d->text);
+    const QString selector = WThemeUtilsPrivate::selectorOf(d->widget);
+    const QString text = source->expand(selector, *table);
+    d->take(source->directives());
     if (text.isEmpty())
         return;
-    d->widget->setAttribute(Qt::WA_StyledBackground);
-    if (d->widget->styleSheet() != text) {
-        const EngineReads reading;
-        d->widget->setStyleSheet(text);
-        applyMargins(); // a tree takes those of its frame after its last style event
-    }
+    d->expanded = source;
+    d->content = content;
+    d->shortText.clear();
+    if (isOnlyColors && d->canBeShort())
+        d->shortText = source->expandNormal(selector, *table);
+    d->give(text, isOnlyColors);
     d->hooks->cssChanged(d->widget);
+}
+
+// A token stands inside a directive, so other colors may be other directives.
+void ThemeSupport::Private::expandInTwoPasses(const ColorTable &table)
+{
+    const StyleTemplate final = source->withTokensReplaced(table);
+    const QString expandedText = final.expand(WThemeUtilsPrivate::selectorOf(widget), table);
+    take(final.directives());
+    if (expandedText.isEmpty())
+        return;
+    expanded.reset();
+    shortText.clear();
+    if (text != expandedText || widget->styleSheet() != expandedText || isAncestorNewer)
+        give(expandedText, false);
+    hooks->cssChanged(widget);
+}
+
+bool ThemeSupport::Private::isUpToDate(const StyleTemplate *from, quint64 newContent) const
+{
+    return expanded.get() == from && content == newContent
+        && (isWaiting || (!isAncestorNewer && widget->styleSheet() == text));
+}
+
+void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
+{
+    text = newText;
+    widget->setAttribute(Qt::WA_StyledBackground);
+    if (isOnlyColors) {
+        isWaiting = true;
+        if (RestyleScope::isOpen() && hasToWait())
+            RestyleScope::count(&RestyleReport::deferred);
+        else
+            giveColors();
+    } else if (!isPolished && widget->styleSheet().isEmpty()) {
+        setSheetOfThisOnly(text);
+    } else if (widget->styleSheet() != text || isAncestorNewer) {
+        isWaiting = isAncestorNewer = false;
+        const EngineReads reading;
+        widget->setStyleSheet(text);
+        support.applyMargins(); // a tree takes those of its frame after its last style event
+    }
+}
+
+// The widget stays as large as it is, so neither it nor what is below has to be laid out anew.
+void ThemeSupport::Private::giveColors()
+{
+    RestyleScope::count(&RestyleReport::restyled);
+    isGettingColors = true;
+    setSheetOfThisOnly(isWaiting ? text : widget->styleSheet());
+    isGettingColors = false;
+    widget->update();
+}
+
+// Qt reads and sorts the rules of each widget anew whenever their colors change, and that is most of the time a switch
+// of the theme takes. The rules for states in which a widget is not are left out where it is certain that they are not
+// missed: nothing inside, and a class whose states are known. They come in before it is painted in another state.
+bool ThemeSupport::Private::canBeShort() const
+{
+    const QObjectList &children = widget->children();
+    const bool isLeaf =
+        std::none_of(children.begin(), children.end(), [](const QObject *child) { return child->isWidgetType(); });
+    return isLeaf && isPolished && isInNormalState()
+        && (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget)
+            || widget->inherits("WFrame") || widget->inherits("WWidget"));
+}
+
+bool ThemeSupport::Private::isInNormalState() const
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return widget->isEnabled() && !widget->underMouse() && !widget->hasFocus()
+        && !(button && (button->isDown() || button->isChecked()));
+}
+
+void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
+{
+    isWaiting = isAncestorNewer = false;
+    const RestyleScope scope;
+    const StyledBelow below(widget);
+    for (const QPointer<QWidget> &child : below.widgets()) {
+        Private &other = *ThemeSupport::of(child)->d;
+        if (other.isPolished && !other.isAncestorNewer) {
+            other.isAncestorNewer = true;
+            RestyleScope::add(child);
+        }
+    }
+    const EngineReads reading;
+    widget->setStyleSheet(sheet);
+}
+
+void ThemeSupport::polishIfNeeded()
+{
+    if (d->isAncestorNewer && !d->hasToWait())
+        d->giveColors();
+}
+
+// The widgets of a page are told from the innermost out, and styled from the outermost in.
+void ThemeSupport::Private::showNewColors()
+{
+    const RestyleScope scope;
+    std::vector<Private *> chain;
+    for (QWidget *w = widget; w; w = w->parentWidget()) {
+        ThemeSupport *other = ThemeSupport::of(w);
+        if (other && (other->d->isWaiting || other->d->isAncestorNewer) && w->isVisible())
+            chain.push_back(other->d.get());
+    }
+    for (auto it = chain.rbegin(); it != chain.rend(); ++it)
+        (*it)->giveColors();
+}
+
+QString ThemeSupport::styleSheet() const
+{
+    if (d->isWaiting)
+        d->giveColors();
+    return d->widget->styleSheet();
 }
 
 void ThemeSupport::applyTheme()
@@ -295,7 +479,8 @@ QString ThemeSupport::styleSheetProperty() const
 {
     if (engineReads > 0) {
         ++expandedTextsRead;
-        return d->widget->styleSheet();
+        const QString sheet = d->widget->styleSheet();
+        return !d->shortText.isEmpty() && sheet == d->text ? d->shortText : sheet;
     }
     const QString sheet = d->widget->styleSheet();
     if (sheet.isEmpty() || !QCoreApplication::instance())
@@ -340,17 +525,17 @@ void ThemeSupport::answerThemeChange()
 
 QString ThemeSupport::themeType() const
 {
-    return d->themeType;
+    return WThemeUtils::themeTypeToString(d->ownType);
 }
 
 void ThemeSupport::setThemeType(const QString &themeType)
 {
-    const QString known = WThemeUtils::themeTypeToString(WThemeUtils::stringToThemeType(themeType));
-    if (known != themeType && !themeType.isEmpty())
+    const WThemeUtils::AppThemeType type = WThemeUtils::stringToThemeType(themeType);
+    if (!themeType.isEmpty() && WThemeUtils::themeTypeToString(type) != themeType)
         qWarning() << "Unknown theme type, taken as global:" << themeType;
-    if (d->themeType == known)
+    if (d->ownType == type)
         return;
-    d->themeType = known;
+    d->ownType = type;
     d->announceThemeType();
 }
 
@@ -361,22 +546,23 @@ void ThemeSupport::onParentThemeTypeChanged()
 
 void ThemeSupport::Private::announceThemeType()
 {
-    shownType = WThemeUtils::getThemeTypeOfWidget(widget);
+    const RestyleScope scope;
+    shownType = effectiveType();
     std::vector<QPointer<QWidget>> below;
     collectBelowPlain(widget, false, &below);
     const QPointer<QWidget> self(widget);
     hooks->themeTypeChanged(widget);
     for (const QPointer<QWidget> &child : below) {
-        ThemeSupport *support = self && child ? ThemeSupport::of(child) : nullptr;
-        if (support)
-            support->d->hooks->onParentThemeTypeChanged(child);
+        ThemeSupport *other = self && child ? ThemeSupport::of(child) : nullptr;
+        if (other)
+            other->d->hooks->onParentThemeTypeChanged(child);
     }
 }
 
 // What is inherited may have changed without a word from above.
 void ThemeSupport::Private::noticeThemeType()
 {
-    if (shownType != WThemeUtils::getThemeTypeOfWidget(widget))
+    if (shownType != effectiveType())
         hooks->onParentThemeTypeChanged(widget);
 }
 
@@ -445,7 +631,13 @@ void ThemeSupport::applyFont()
             d->fontConnection =
                 QObject::connect(fonts, &WScaledFonts::fontTokenChanged, d->widget, [this] { applyFont(); });
     }
-    d->widget->setFont(fonts ? fonts->getFont(d->fontToken) : QFont(WFont(d->fontToken, false)));
+    const QFont font = fonts ? fonts->getFont(d->fontToken) : QFont(WFont(d->fontToken, false));
+    // What comes of it depends on fonts around the widget, too: nobody has touched it if it is the very same object.
+    if (font.isCopyOf(d->givenFont) && d->widget->font().isCopyOf(d->resultingFont))
+        return;
+    d->widget->setFont(font);
+    d->givenFont = font;
+    d->resultingFont = d->widget->font();
 }
 
 void ThemeSupport::setContentsMargins(const QMargins &margins)

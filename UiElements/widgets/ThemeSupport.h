@@ -40,8 +40,9 @@ public:
 
     /// To be called in the constructor of the class that declares the signals and slots.
     void attach();
-    /// To be called with every event of the widget, before the widget handles it.
-    void follow(QEvent *event);
+    /// To be called with every event of the widget, before the widget handles it. True for an event that the widget
+    /// need not see: a change of the style in which nothing but colors changed.
+    bool follow(QEvent *event);
 
     /// The widget's style draws the whole box of its rule. Qt's background for Qt::WA_StyledBackground would come on
     /// top of that once more, which shows where colors are translucent, and under a part that is drawn smaller.
@@ -50,6 +51,11 @@ public:
     QString css() const;
     void setCss(const QString &css);
     void refresh();
+    /// The expanded text. That of a hidden widget is given to Qt when it is shown, or when it is asked for here.
+    QString styleSheet() const;
+    /// Polishes the widget if the sheet of an ancestor changed and it was not polished since. If it is hidden, that
+    /// waits until it is shown.
+    void polishIfNeeded();
     /// Template and font. Slots connected to the widget may destroy it meanwhile.
     void applyTheme();
     /// In between, whoever reads the property "styleSheet" of a themed widget is known to be Qt's style engine.

@@ -37,6 +37,10 @@ public:
     /// The same as setCSS(): code generated from forms calls this.
     void setStyleSheet(const QString &css) { setCSS(css); }
 
+    /// The expanded text. After a change of the theme a hidden widget gives it to Qt when it is shown, or when it is
+    /// asked here; QWidget::styleSheet(), called through a QWidget pointer, is the previous text until then.
+    QString styleSheet() const { return m_theme.styleSheet(); }
+
     QString themeType() const { return m_theme.themeType(); }
     void setThemeType(const QString &themeType) { m_theme.setThemeType(themeType); }
 
@@ -80,7 +84,8 @@ protected:
 
     bool event(QEvent *event) override
     {
-        m_theme.follow(event);
+        if (m_theme.follow(event))
+            return true;
         const QEvent::Type type = event->type();
         const bool polishes = type == QEvent::Polish;
         if (polishes)
