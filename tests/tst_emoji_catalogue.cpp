@@ -375,7 +375,8 @@ void tst_EmojiCatalogue::damaged()
     const auto anyOf = [&random](const auto &list) {
         return list[decltype(list.size())(random() % uint(list.size()))];
     };
-    const QByteArray likely("\"\\{}[],:-.eEu0123456789tfn \n\x00\x01\x1F\x7F\x80\xBF\xC3\xEF\xF4\xFF", 41);
+    static constexpr char bytes[] = "\"\\{}[],:-.eEu0123456789tfn \n\x00\x01\x1F\x7F\x80\xBF\xC3\xEF\xF4\xFF";
+    const QByteArray likely(bytes, int(sizeof bytes) - 1);
     const QList<QByteArray> values {"null", "true",  "false",       "-1",   "7",         "0",
                                     "007",  "1e2",   "99999999999", "\"\"", "\"41\"",    "\"\xFF\"",
                                     "[]",   "[1,2]", "[\"a\"]",     "{}",   "{\"a\":1}", "{\"b\":\"41\",\"k\":[1,2]}",
