@@ -63,7 +63,6 @@ void tst_Application::construction()
     QCOMPARE(QApplication::font().family(), QStringLiteral("Segoe UI"));
     QCOMPARE(QApplication::font().pixelSize(), 16);
     QVERIFY(!app()->getQmlEngine());
-    QVERIFY(!app()->getMovieProviderSource());
 }
 
 void tst_Application::metaObject()

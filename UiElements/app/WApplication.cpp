@@ -5,6 +5,7 @@
 #include <UiElements/app/WFont.h>
 #include <UiElements/app/WFontManager.h>
 #include <UiElements/app/WGlobalSignalListener.h>
+#include <UiElements/icons/LocalMovieSource.h>
 #include <UiElements/theme/WThemeUtils.h>
 
 #include <QDebug>
@@ -70,6 +71,23 @@ void WApplication::setFontScaleFactor(float factor)
     Q_EMIT fontScaleFactorChanged(factor);
 }
 
+QIcon WApplication::getDialogIcon(bool hasParentWindow) const
+{
+    QIcon &icon = m_dialogIcons[hasParentWindow ? 1 : 0];
+    if (icon.isNull()) {
+        const QString name = hasParentWindow ? QStringLiteral("chat") : QStringLiteral("chat-filled");
+        for (int size : {16, 20, 24})
+            icon.addFile(QStringLiteral(":/Resources/%1_%2.svg").arg(name).arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+void WApplication::setDialogIcon(const QIcon &icon, const QIcon &iconWithParentWindow)
+{
+    m_dialogIcons[0] = icon;
+    m_dialogIcons[1] = iconWithParentWindow;
+}
+
 void WApplication::setIsDarkTheme(bool isDarkTheme)
 {
     if (!changeIsDarkTheme(isDarkTheme))
@@ -92,6 +110,20 @@ void WApplication::setPublishingInfo(const WPublishingInfo &info)
         return;
     m_publishingInfo = info;
     Q_EMIT publishingInfoChanged();
+}
+
+IWMovieProviderSource *WApplication::getMovieProviderSource()
+{
+    if (auto *source = qobject_cast<IWMovieProviderSource *>(m_movieProviderSource))
+        return source;
+    if (!m_localMovieSource)
+        m_localMovieSource = new LocalMovieSource(this);
+    return m_localMovieSource;
+}
+
+void WApplication::setMovieProviderSource(IWMovieProviderSource *source)
+{
+    m_movieProviderSource = source;
 }
 
 WFontManager *WApplication::getWFontManager() const

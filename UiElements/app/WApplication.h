@@ -5,6 +5,7 @@
 #include <UiElements/app/WPublishingInfo.h>
 #include <UiElements/uielements_export.h>
 
+#include <QIcon>
 #include <QKeySequence>
 #include <QPointer>
 
@@ -50,6 +51,11 @@ public:
     /// is no number, is reported and changes nothing.
     void setFontScaleFactor(float factor);
 
+    /// The icon of QML windows: of those that have a parent window, and of those that stand alone. Until the host sets
+    /// its own they come from the icon set. Windows take it when they are made.
+    QIcon getDialogIcon(bool hasParentWindow) const;
+    void setDialogIcon(const QIcon &icon, const QIcon &iconWithParentWindow);
+
     /// Tell these together with the color sets they belong to: the registry set by setColorSets() is that of the theme
     /// shown. After its signal each flag announces colorSetsChanged(), because the choice of registry depends on it.
     void setIsDarkTheme(bool isDarkTheme);
@@ -58,9 +64,10 @@ public:
     WPublishingInfo getPublishingInfo() const { return m_publishingInfo; }
     void setPublishingInfo(const WPublishingInfo &info);
 
-    /// Where animated images get their movies; null until the host sets one, which stays the host's.
-    IWMovieProviderSource *getMovieProviderSource() const { return m_movieProviderSource; }
-    void setMovieProviderSource(IWMovieProviderSource *source) { m_movieProviderSource = source; }
+    /// Where animated images get their movies: a LocalMovieSource, made when it is first asked for, until the host sets
+    /// a source of its own, which stays the host's. Null, and the end of the host's source, bring back the first.
+    IWMovieProviderSource *getMovieProviderSource();
+    void setMovieProviderSource(IWMovieProviderSource *source);
 
     /// Null once the application object is being destroyed.
     WAppSignals *getAppSignals() const { return m_appSignals; }
@@ -89,9 +96,11 @@ private:
     QString m_logoSvgPath;
     QString m_logoPngPath;
     WPublishingInfo m_publishingInfo;
+    mutable QIcon m_dialogIcons[2]; // without and with a parent window
     QPointer<WAppSignals> m_appSignals;
     QPointer<QObject> m_fontManager;
     QPointer<QObject> m_globalSignalListener;
-    IWMovieProviderSource *m_movieProviderSource = nullptr;
+    QPointer<QObject> m_movieProviderSource;
+    IWMovieProviderSource *m_localMovieSource = nullptr; // a child
     float m_fontScaleFactor = 1.0f;
 };

@@ -1,0 +1,8 @@
+#include <UiElements/icons/IWMovieProviderSource.h>
+
+IWMovieProviderSource::IWMovieProviderSource(QObject *parent)
+    : QObject(parent)
+{
+}
+
+IWMovieProviderSource::~IWMovieProviderSource() = default;
