@@ -79,6 +79,7 @@ Subject busStartup();
 Subject emojiCatalogue();
 Subject emojiText();
 std::vector<Subject> icons(); ///< one for each size and ratio
+Subject labels();
 std::vector<Subject> models();
 Subject shortcuts();
 Subject startup();

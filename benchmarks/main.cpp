@@ -36,6 +36,7 @@ int main(int argc, char **argv)
     subjects.push_back(bench::emojiText());
     for (const bench::Subject &subject : bench::icons())
         subjects.push_back(subject);
+    subjects.push_back(bench::labels());
     for (const bench::Subject &subject : bench::models())
         subjects.push_back(subject);
     return bench::run(subjects, parser.value(rows), parser.isSet(quick)) ? 0 : 1;
