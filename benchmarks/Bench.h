@@ -76,6 +76,7 @@ Sample repeated(int times, Function function)
 
 Subject bus();
 Subject busStartup();
+Subject buttons();
 Subject emojiCatalogue();
 Subject emojiText();
 std::vector<Subject> icons(); ///< one for each size and ratio

@@ -32,6 +32,7 @@ int main(int argc, char **argv)
 
     std::vector<bench::Subject> subjects {bench::templates(), bench::startup(),   bench::busStartup(),
                                           bench::bus(),       bench::shortcuts(), bench::themeSwitch()};
+    subjects.push_back(bench::buttons());
     subjects.push_back(bench::emojiCatalogue());
     subjects.push_back(bench::emojiText());
     for (const bench::Subject &subject : bench::icons())
