@@ -48,7 +48,9 @@ private Q_SLOTS:
     void imagesInDocuments_data();
     void imagesInDocuments();
     void imagesAreSharp();
+    void imagesFitTheirLine();
     void imagesKeepTheirShape();
+    void selections();
     void otherSourcesAreLeftAlone();
     void clipboard();
     void spoken_data();
@@ -548,7 +550,7 @@ void tst_EmojiText::imagesInDocuments()
     font.setPixelSize(18);
     document.setDefaultFont(font);
     document.setHtml(html);
-    const qreal expectedEdge = edge > 0 ? edge : std::round(QFontMetricsF(font).height());
+    const qreal expectedEdge = edge > 0 ? edge : std::floor(QFontMetricsF(font).ascent());
     // Again with another ratio: the images are made anew.
     for (const qreal ratio : {1.0, 2.0, 1.5}) {
         EmojiConverter::insertEmojiImages(&document, imageSize, ratio);
@@ -572,7 +574,7 @@ void tst_EmojiText::imagesInDocuments()
     EmojiConverter::insertEmojiImages(&document, imageSize, 1);
     const QVector<QTextImageFormat> formats = images(document);
     for (const QTextImageFormat &format : formats)
-        QCOMPARE(format.height(), edge > 0 ? edge : std::round(QFontMetricsF(font).height()));
+        QCOMPARE(format.height(), edge > 0 ? edge : std::floor(QFontMetricsF(font).ascent()));
 }
 
 void tst_EmojiText::imagesAreSharp()
@@ -599,6 +601,43 @@ void tst_EmojiText::imagesAreSharp()
         onShown.end();
         onExpected.end();
         QCOMPARE(shown, expected);
+    }
+}
+
+// In every font: lines keep their height.
+void tst_EmojiText::imagesFitTheirLine()
+{
+    for (const int fontSize : {9, 16, 33}) {
+        QFont font;
+        font.setPixelSize(fontSize);
+        const auto heightOf = [&font](const QString &html) {
+            QTextDocument document;
+            document.setDefaultFont(font);
+            document.setHtml(html);
+            EmojiConverter::insertEmojiImages(&document, 0, 1);
+            return document.size().height();
+        };
+        const QString text = QStringLiteral("Agx ");
+        QCOMPARE(heightOf(EmojiConverter(20, EmojiConverter::SvgFileTag).toRichText(text + grin)), heightOf(text));
+    }
+}
+
+void tst_EmojiText::selections()
+{
+    const QString message = QStringLiteral("a <b> %1%1\nlast  line %1").arg(grin);
+    for (const quint8 format : {EmojiConverter::SvgFileTag, EmojiConverter::QrcTag}) {
+        QTextDocument document;
+        document.setHtml(EmojiConverter(20, format).toRichText(message) + QStringLiteral("<p>next</p>"));
+        EmojiConverter::insertEmojiImages(&document);
+        QTextCursor cursor(&document);
+        QCOMPARE(EmojiConverter::selectedText(cursor), QString());
+        cursor.select(QTextCursor::Document);
+        QCOMPARE(EmojiConverter::selectedText(cursor), message + QStringLiteral("\nnext"));
+        cursor.setPosition(2);
+        cursor.setPosition(7, QTextCursor::KeepAnchor); // the first of two that are one fragment
+        const std::unique_ptr<QMimeData> data(EmojiConverter::createMimeData(cursor));
+        QCOMPARE(data->text(), QStringLiteral("<b> ") + grin);
+        QVERIFY(data->html().contains(QStringLiteral("/emojis/1f600.svg")));
     }
 }
 

@@ -13,6 +13,7 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QTextImageFormat>
 #include <QUrl>
 #include <QVarLengthArray>
@@ -663,12 +664,12 @@ void setImage(QTextDocument *document, const Place &place, int imageSize, qreal 
     QTextImageFormat format = place.format;
     if (format.boolProperty(FollowsFont) || (format.width() <= 0 && format.height() <= 0)) {
         const QFontMetricsF metrics(format.font().resolve(document->defaultFont()));
-        const qreal edge = imageSize > 0 ? imageSize : std::round(metrics.height());
+        // Qt sets images upon the baseline: one that is higher than the letters reach up makes its line higher.
+        const qreal edge = imageSize > 0 ? imageSize : std::floor(metrics.ascent());
         format.setWidth(edge);
         format.setHeight(edge);
         format.setProperty(FollowsFont, true);
-        // Reaches down as far as the letters do, so that a line is as high as without it.
-        format.setVerticalAlignment(QTextCharFormat::AlignBaseline);
+        format.setVerticalAlignment(QTextCharFormat::AlignNormal);
     } else if (format.width() <= 0) {
         format.setWidth(format.height());
     } else if (format.height() <= 0) {
@@ -692,6 +693,12 @@ void setImage(QTextDocument *document, const Place &place, int imageSize, qreal 
         cursor.setCharFormat(format);
     else
         cursor.insertImage(format);
+}
+
+QString textOfImage(const QTextImageFormat &format)
+{
+    const QString alternative = format.stringProperty(QTextFormat::ImageAltText);
+    return alternative.isEmpty() ? emojiOfSource(format.name()) : alternative;
 }
 
 } // namespace
@@ -738,6 +745,40 @@ void EmojiConverter::insertEmojiImages(QTextDocument *document, int imageSize, q
 }
 
 // ---- clipboard and speech
+
+QString EmojiConverter::selectedText(const QTextCursor &selection)
+{
+    QString text;
+    if (!selection.hasSelection())
+        return text;
+    const int begin = selection.selectionStart();
+    const int end = selection.selectionEnd();
+    for (QTextBlock block = selection.document()->findBlock(begin); block.isValid() && block.position() < end;
+         block = block.next()) {
+        if (block.position() > begin)
+            text += QLatin1Char('\n');
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextFragment fragment = it.fragment();
+            const int first = std::max(begin, fragment.position());
+            const int length = std::min(end, fragment.position() + fragment.length()) - first;
+            if (length <= 0)
+                continue;
+            if (fragment.charFormat().isImageFormat())
+                text += textOfImage(fragment.charFormat().toImageFormat()).repeated(length);
+            else
+                text += fragment.text().mid(first - fragment.position(), length);
+        }
+    }
+    return text.replace(QChar::LineSeparator, QLatin1Char('\n')).replace(QChar::Nbsp, QLatin1Char(' '));
+}
+
+QMimeData *EmojiConverter::createMimeData(const QTextCursor &selection)
+{
+    auto *data = new QMimeData;
+    data->setHtml(selection.selection().toHtml());
+    data->setText(selectedText(selection));
+    return data;
+}
 
 QMimeData *EmojiConverter::createMimeData(const QString &richText)
 {

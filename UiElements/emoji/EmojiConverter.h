@@ -9,6 +9,7 @@
 #include <vector>
 
 class QMimeData;
+class QTextCursor;
 class QTextDocument;
 struct EmojiImage;
 
@@ -18,8 +19,12 @@ class EmojiData;
 
 /// Turns plain text into rich text in which every emoji that has an image stands as an image tag, and back.
 ///
-/// Labels use toRichText() and toPlainText(): what a message says stays text, whatever it looks like. All others read
-/// and write tags and leave the rest as it is.
+/// Two families, not to be mixed. For what people wrote, which stays text whatever it looks like: toRichText(),
+/// toPlainText(), copyPlainText(), spokenText(). For HTML that is escaped already: convert(), htmlToPlainText(),
+/// copyRichText(). What stands in a document comes back by selectedText().
+///
+/// A WEmojiLabel shows emoji by itself. Documents need insertEmojiImages(); a QLabel has no document to be had, and
+/// shows no emoji.
 ///
 /// What is one emoji: an emoji with what changes it (a skin tone, U+FE0F, tag characters), several of these joined by
 /// U+200D, two regional indicators, or a digit, "#" or "*" with a keycap. If all of it together has no image, its
@@ -30,8 +35,8 @@ class UIELEMENTS_EXPORT EmojiConverter
 public:
     /// What a tag says of its image.
     enum TagFormat : quint8 {
-        SvgFileTag = 0, ///< a marker that insertEmojiImages() finds
-        QrcTag = 1 ///< its address and size, for QML and text browsers; for others through insertEmojiImages()
+        SvgFileTag = 0, ///< a marker that insertEmojiImages() finds: images that follow the font
+        QrcTag = 1 ///< its address and size, for QML; in documents, through insertEmojiImages(), it keeps the size
     };
 
     explicit EmojiConverter(int imageSize = 20, quint8 tagFormat = QrcTag);
@@ -73,10 +78,16 @@ public:
 
     /// Puts images where the document has the sources of tags: as text ("svgFile=...unicode", also where somebody wrote
     /// just that), or as images that came with HTML in either format. They are as sharp as the ratio allows; 0 is the
-    /// ratio of the application. Images of which the HTML tells no edge are imageSize high or, with 0, as high as a
-    /// line of the font around them; of which it tells one, they are square. Calling it again, with another ratio or
-    /// font, replaces the images.
+    /// ratio of the application. Images of which the HTML tells no edge are imageSize high or, with 0, as high as the
+    /// letters around them reach, so that lines keep their height; of which it tells one, they are square. Calling it
+    /// again, with another ratio or font, replaces the images. It is a step of its own for undo.
     static void insertEmojiImages(QTextDocument *document, int imageSize = 0, qreal devicePixelRatio = 0);
+
+    /// What is selected in a document, with the emoji in the places of their images, and line breaks as "\n". Qt's own
+    /// functions put a replacement character there.
+    static QString selectedText(const QTextCursor &selection);
+    /// The same and its HTML, for QTextEdit::createMimeDataFromSelection(). The caller owns it.
+    static QMimeData *createMimeData(const QTextCursor &selection);
 
     /// The rich text as HTML and what htmlToPlainText() makes of it as plain text. The caller owns it.
     static QMimeData *createMimeData(const QString &richText);

@@ -173,6 +173,8 @@ public:
             const QString &localisedName = emoji->variations.front().localisedName;
             addName(name, rank);
             addName(localisedName, rank);
+            // Somebody may paste an emoji to learn its name.
+            addText(foldForSearch(emoji->variations.front().text), rank, false);
             if (emoji->englishName != localisedName)
                 addName(emoji->englishName, rank);
             addKeywords(emoji->keywords, rank);

@@ -19,6 +19,9 @@ class RowStore;
 /// whose id is taken is skipped. Roles below Qt::UserRole cannot be stored: the model says so once for each such role,
 /// and likewise when a view asks for one; for other roles that a row lacks, each time.
 ///
+/// Roles below Qt::UserRole are those that the views of Qt paint, so these need a delegate, or a derived class or a
+/// proxy whose data() answers Qt::DisplayRole from a role of the model.
+///
 /// Batches that are passed as temporaries are moved in, which costs a fraction of copying them.
 ///
 /// Slots may change values while the model announces what it does, but not rows: whoever is told after them would learn
@@ -69,7 +72,8 @@ public:
 
     /// Makes the content equal to the batch, id by id: what has gone is removed, what stays is moved as little as
     /// possible, what is new is inserted, and of the rest only the values that differ are announced. Right for lists
-    /// that live: scroll position, selection and current item stay with their rows.
+    /// that live: selection and current item stay with their rows, and scroll bars where they are (so rows that come in
+    /// above the visible ones push these down, in the views of Qt Widgets).
     ///
     /// Many moves in a long list (ten in the longest, a hundred among 1,000 rows) are announced at once, as a change of
     /// the layout. Widgets keep everything then, too; a ListView in QML shows the new order but keeps its current
@@ -91,7 +95,8 @@ public:
     QMap<int, QVariant> itemData(const QModelIndex &index) const override; ///< what the row holds
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     QHash<int, QByteArray> roleNames() const override;
-    void setRoleNames(const QHash<int, QByteArray> &names); ///< resets the model: views read names only then
+    void setRoleNames(
+        const QHash<int, QByteArray> &names); ///< resets the model. QML that has shown a row keeps the names of then
 
 Q_SIGNALS:
     void headerChanged();

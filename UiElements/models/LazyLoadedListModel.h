@@ -18,6 +18,9 @@ class QStandardItem;
 /// starts with loadStorageAtPage(). The view calls setScrolledIndex() and takes items with getItemAt(). It is told by
 /// dataChanged() of items that have come or gone; pointers are to be asked for again then.
 ///
+/// data() has nothing to tell. For a view of Qt, derive a class whose data() asks the item:
+/// `QStandardItem *item = getItemAt(index.row()); return item ? item->data(role) : QVariant();`
+///
 /// The pages in storage begin with the one before the scrolled page. When that changes, the pages that leave are
 /// deleted and those that enter are asked for in ascending order, in one signal. So a page is asked for once each time
 /// it enters, or again by requestPages(), until it is there. Answers may come late, twice and in any order: a later one

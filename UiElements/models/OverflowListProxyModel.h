@@ -7,7 +7,7 @@
 #include <array>
 
 /// The rows of a list that did not fit where they are shown, for the menu behind them: all rows after row number
-/// firstVisibleIndex of the source.
+/// firstVisibleIndex of the source. That is the last one that did fit; whoever lays out the others tells it.
 class UIELEMENTS_EXPORT OverflowListProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     OverflowListProxyModel(int firstVisibleIndex, QObject *parent);
 
     int firstVisibleIndex() const { return m_firstVisibleIndex; }
-    void setFirstVisibleIndex(int index); ///< the row of this number is the last one that is hidden
+    void setFirstVisibleIndex(int index); ///< 0, the default, leaves out row 0; -1 has all rows
     QString header() const { return m_header; }
     void setHeader(const QString &header);
 

@@ -82,9 +82,15 @@ def image_name(code):
 # ---- catalogue
 
 
+def emoticons(entry, label):
+    """The faces that people type, such as ":-)"."""
+    others = label.get("emoticon", [])
+    return [*(entry["texts"] or []), *([others] if isinstance(others, str) else others)]
+
+
 def keywords(entry, label):
     """Other short names, words and emoticons, without what the emoji is called anyway."""
-    words = dict.fromkeys([*entry["short_names"], *label["tags"], *(entry["texts"] or [])])
+    words = dict.fromkeys([*entry["short_names"], *label["tags"], *emoticons(entry, label)])
     return [word for word in words if word not in (entry["short_name"], label["label"])]
 
 
@@ -274,7 +280,7 @@ def keywords_by_theme(entries, words_of):
     return result
 
 
-def translations(entries, emojis, node_modules, english, language):
+def translations(entries, labels, emojis, node_modules, english, language):
     """English names and keywords of the catalogue with what they are in a language."""
     foreign = annotations(node_modules, language)
 
@@ -287,7 +293,9 @@ def translations(entries, emojis, node_modules, english, language):
     matched = match_keywords(
         keywords_by_theme(entries, lambda entry: emojis[entry["short_name"]]["j"] + notes(english, entry)[1]),
         keywords_by_theme(entries, lambda entry: notes(foreign, entry)[1]))
-    wanted = {word for emoji in emojis.values() for word in emoji["j"]}
+    # Emoticons are the same everywhere.
+    faces = {face for entry in entries for face in emoticons(entry, labels[bare(entry["unified"])])}
+    wanted = {word for emoji in emojis.values() for word in emoji["j"]} - faces
     result = {word: other for word, other in matched.items() if word in wanted}
     result.update((emojis[entry["short_name"]]["a"], notes(foreign, entry)[0]) for entry in entries)
     return result
@@ -343,7 +351,7 @@ def main():
         texts[folder / "emoji.json"] = catalogue_text(emojis, categories)
         english = annotations(node_modules, "en")
         for language in LANGUAGES:
-            translated = translations(entries, emojis, node_modules, english, language)
+            translated = translations(entries, labels, emojis, node_modules, english, language)
             texts[folder / f"translations/emoji_{language}.ts"] = ts_text(language, translated)
             print(f"       {language}: {len(translated) - len(emojis)} keywords besides the names")
         texts.update(license_texts(root, node_modules))

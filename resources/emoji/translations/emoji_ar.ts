@@ -1767,7 +1767,6 @@
 <message><source>sari</source><translation>ساري</translation></message>
 <message><source>satellite</source><translation>قمر صناعي</translation></message>
 <message><source>satellite antenna</source><translation>طبق قمر صناعي</translation></message>
-<message><source>satisfied</source><translation>راض</translation></message>
 <message><source>sauropod</source><translation>ديناصور صوروبودا</translation></message>
 <message><source>saxophone</source><translation>ساكسفون</translation></message>
 <message><source>scared</source><translation>خائف</translation></message>

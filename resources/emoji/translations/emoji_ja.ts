@@ -1727,7 +1727,6 @@
 <message><source>sari</source><translation>サリー</translation></message>
 <message><source>satellite</source><translation>人工衛星</translation></message>
 <message><source>satellite antenna</source><translation>パラボラアンテナ</translation></message>
-<message><source>satisfied</source><translation>満足</translation></message>
 <message><source>sauropod</source><translation>草食恐竜</translation></message>
 <message><source>saxophone</source><translation>サックス</translation></message>
 <message><source>scarf</source><translation>マフラー</translation></message>
