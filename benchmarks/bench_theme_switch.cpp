@@ -4,6 +4,7 @@
 // are started once, wait on their standard input and do one switch when told, so that they too take turns.
 
 #include "Bench.h"
+#include "HeapCounter.h"
 #include "SampleThemes.h"
 
 #include <UiElements/app/WApplication.h>
@@ -15,21 +16,32 @@
 #include <QImage>
 #include <QPalette>
 #include <QProcess>
+#include <QStackedWidget>
 #include <QStyle>
 
 #include <cmath>
 #include <cstdio>
 #include <memory>
 
+#include <malloc.h>
+
 namespace {
 
-constexpr int WidgetCount = 1000;
-constexpr int Depth = 6; // levels of themed widgets
-constexpr int Branches = 3;
+struct Shape
+{
+    int widgets = 1000; // of each tree
+    int depth = 6; // levels of themed widgets
+    int branches = 3;
+    int trees = 1; // beside each other
+    bool isPages = false; // or on top of each other, one of them visible
+};
 
 const char Switch[] = "switch";
 const char Again[] = "again";
 const char Picture[] = "picture";
+const char HeapCalls[] = "heap calls"; // of a switch, for each widget
+const char Memory[] = "memory"; // that is in use, in KiB
+const char ChildrenFirst[] = "children first"; // styles a new window
 
 // ---- the window, in the process of a variant
 
@@ -45,19 +57,40 @@ class Window
 public:
     enum Kind { Library, Plain };
 
-    explicit Window(Kind kind)
+    Window(Kind kind, const Shape &shape)
         : m_kind(kind)
+        , m_shape(shape)
     {
         int frames = 0;
-        for (int level = 0, width = 1; level < Depth - 1; ++level, width *= Branches) {
+        for (int level = 0, width = 1; level < shape.depth - 1; ++level, width *= shape.branches) {
             frames += width;
             m_innermost = width;
         }
-        m_leaves = WidgetCount - frames;
+        m_leaves = shape.widgets - frames;
         root.resize(1600, 1000);
-        auto *layout = new QVBoxLayout(&root);
+        auto *layout = new QHBoxLayout(&root);
         layout->setContentsMargins(0, 0, 0, 0);
-        addFrame(&root, layout, 0);
+        auto *pages = shape.isPages ? new QStackedWidget : nullptr;
+        if (pages)
+            layout->addWidget(pages);
+        for (int tree = 0; tree < shape.trees; ++tree) {
+            auto *page = new QWidget;
+            if (pages)
+                pages->addWidget(page);
+            else
+                layout->addWidget(page);
+            auto *pageLayout = new QVBoxLayout(page);
+            pageLayout->setContentsMargins(0, 0, 0, 0);
+            addFrame(page, pageLayout, 0);
+        }
+        // A page is polished when it is shown for the first time.
+        for (int i = 0; pages && i < shape.trees; ++i) {
+            pages->setCurrentIndex(i);
+            if (i == 0)
+                root.show();
+        }
+        if (pages)
+            pages->setCurrentIndex(0);
     }
 
     QWidget root;
@@ -82,14 +115,14 @@ private:
     {
         QFrame *frame = make<WFrame, QFrame>(parent, m_frames++ % 2 ? samples::Card : samples::Panel);
         into->addWidget(frame);
-        if (level == Depth - 2) {
+        if (level == m_shape.depth - 2) {
             addLeaves(frame);
             return;
         }
         auto *layout = new QBoxLayout(level % 2 ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, frame);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
-        for (int i = 0; i < Branches; ++i)
+        for (int i = 0; i < m_shape.branches; ++i)
             addFrame(frame, layout, level + 1);
     }
 
@@ -117,6 +150,7 @@ private:
     }
 
     const Kind m_kind;
+    const Shape m_shape;
     int m_innermost = 0;
     int m_leaves = 0;
     int m_frames = 0;
@@ -138,28 +172,63 @@ QPalette paletteOf(const WColorSets &sets)
     return palette;
 }
 
+void styleWithTemplate(const Themed &themed, const WColorSets &)
+{
+    themed.widget->setProperty("styleSheet", samples::widgetTemplate(themed.look));
+}
+
+void styleLiterally(const Themed &themed, const WColorSets &sets)
+{
+    themed.widget->setStyleSheet(samples::expandLiterally(themed.selector, samples::widgetTemplate(themed.look), sets));
+}
+
+// The rules of all templates; the look is a property of the widget.
+QString applicationSheet(const WColorSets &sets)
+{
+    QString sheet;
+    for (const samples::Look look : {samples::PrimaryButton, samples::SecondaryButton, samples::Label,
+                                     samples::SecondaryLabel, samples::Panel, samples::Card}) {
+        const QString name = QLatin1String(look <= samples::SecondaryButton ? "QRadioButton" : "QFrame");
+        QString rules = samples::expandLiterally(name, samples::widgetTemplate(look), sets);
+        sheet += rules.replace(name, QStringLiteral("%1[look=\"%2\"]").arg(name).arg(look)) + QLatin1Char(' ');
+    }
+    return sheet;
+}
+
 struct Way
 {
     const char *name;
     Window::Kind kind;
     void (*begin)(Window &window);
     void (*apply)(Window &window, const WColorSets &sets);
+    void (*style)(const Themed &themed, const WColorSets &sets) = nullptr; ///< one widget
 };
 
 const Way Ways[] = {
     {"library", Window::Library,
      [](Window &window) {
          for (const Themed &themed : window.themed)
-             themed.widget->setProperty("styleSheet", samples::widgetTemplate(themed.look));
+             styleWithTemplate(themed, {});
      },
-     [](Window &, const WColorSets &sets) {
-         static_cast<IWApplication *>(qApp)->setColorSets(sets);
-     }},
+     [](Window &, const WColorSets &sets) { static_cast<IWApplication *>(qApp)->setColorSets(sets); },
+     styleWithTemplate},
     {"literal", Window::Plain, [](Window &) {},
      [](Window &window, const WColorSets &sets) {
          for (const Themed &themed : window.themed)
-             themed.widget->setStyleSheet(
-                 samples::expandLiterally(themed.selector, samples::widgetTemplate(themed.look), sets));
+             styleLiterally(themed, sets);
+     },
+     styleLiterally},
+    {"application", Window::Plain,
+     [](Window &window) {
+         for (const Themed &themed : window.themed)
+             themed.widget->setProperty("look", int(themed.look));
+     },
+     [](Window &, const WColorSets &sets) {
+         qApp->setStyleSheet(applicationSheet(sets));
+     }},
+    {"plain", Window::Plain, [](Window &) {},
+     [](Window &, const WColorSets &sets) {
+         static_cast<IWApplication *>(qApp)->setColorSets(sets);
      }},
     {"palette", Window::Plain, [](Window &) {},
      [](Window &, const WColorSets &sets) {
@@ -187,8 +256,14 @@ void answer(double value)
 class Peer
 {
 public:
-    explicit Peer(const char *way)
-        : m_way(QString::fromLatin1(way))
+    explicit Peer(const char *way, const Shape &shape = {})
+        : m_way(QStringLiteral("%1/%2/%3/%4/%5/%6")
+                    .arg(QLatin1String(way))
+                    .arg(shape.widgets)
+                    .arg(shape.depth)
+                    .arg(shape.branches)
+                    .arg(shape.trees)
+                    .arg(shape.isPages))
     {
     }
     ~Peer()
@@ -223,6 +298,13 @@ const QLatin1String Library("library");
 const QLatin1String LibraryAgain("library, equal sets");
 const QLatin1String Literal("literal setStyleSheet");
 const QLatin1String Palette("Fusion, qApp->setPalette");
+const QLatin1String ApplicationSheet("application sheet, same rules");
+const QLatin1String Depth4("library, depth 4"), Depth8("library, depth 8");
+const QLatin1String Fivefold("library, 5,000 widgets");
+const QLatin1String Pages("library, ten pages"), LiteralPages("literal, ten pages");
+const QLatin1String First("library, first styling"), LiteralFirst("literal, first styling");
+const QLatin1String Calls("library, heap calls"), AllowedCalls("300 calls");
+const QLatin1String KiB("library, KiB"), AllowedKiB("9 KiB");
 
 } // namespace
 
@@ -230,9 +312,12 @@ int bench::runThemeSwitchProcess(int argc, char **argv)
 {
     WApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+    const QStringList words = QString::fromLocal8Bit(argv[2]).split(QLatin1Char('/'));
+    const Shape shape {words.value(1).toInt(), words.value(2).toInt(), words.value(3).toInt(), words.value(4).toInt(),
+                       words.value(5).toInt() != 0};
     const Way *way = nullptr;
     for (const Way &candidate : Ways) {
-        if (qstrcmp(candidate.name, argv[2]) == 0)
+        if (words.first() == QLatin1String(candidate.name))
             way = &candidate;
     }
     if (!way)
@@ -240,8 +325,9 @@ int bench::runThemeSwitchProcess(int argc, char **argv)
 
     const WColorSets themes[] = {samples::colorSets(false), samples::colorSets(true)};
     int shown = 0;
-    Window window(way->kind);
-    if (window.themed.size() != WidgetCount)
+    Window window(way->kind, shape);
+    const std::size_t count = window.themed.size();
+    if (count != std::size_t(shape.widgets * shape.trees))
         return 1;
     way->apply(window, themes[shown]);
     way->begin(window);
@@ -258,11 +344,25 @@ int bench::runThemeSwitchProcess(int argc, char **argv)
             answer(qChecksum(reinterpret_cast<const char *>(image.constBits()), uint(image.sizeInBytes())));
             continue;
         }
-        shown ^= command == Switch ? 1 : 0;
+        if (command == Memory) {
+            const struct mallinfo2 info = mallinfo2();
+            answer(double(info.uordblks + info.hblkhd) / 1024);
+            continue;
+        }
+        if (command == ChildrenFirst) {
+            Window other(way->kind, shape);
+            const double start = microseconds();
+            for (auto it = other.themed.rbegin(); it != other.themed.rend(); ++it)
+                way->style(*it, themes[shown]);
+            answer(microseconds() - start);
+            continue;
+        }
+        shown ^= command == Again ? 0 : 1;
+        const std::uint64_t calls = heapCalls();
         const double start = microseconds();
         way->apply(window, themes[shown]);
         settle();
-        answer(microseconds() - start);
+        answer(command == HeapCalls ? double(heapCalls() - calls) / double(count) : microseconds() - start);
     }
     return 0;
 }
@@ -272,13 +372,26 @@ bench::Subject bench::themeSwitch()
     const auto library = std::make_shared<Peer>("library");
     const auto literal = std::make_shared<Peer>("literal");
     const auto palette = std::make_shared<Peer>("palette");
+    const auto plain = std::make_shared<Peer>("plain");
+    const auto application = std::make_shared<Peer>("application");
+    // As many frames as the others have.
+    const auto depth4 = std::make_shared<Peer>("library", Shape {1000, 4, 10});
+    const auto depth8 = std::make_shared<Peer>("library", Shape {1000, 8, 2});
+    const auto fivefold = std::make_shared<Peer>("library", Shape {1000, 6, 3, 5});
+    const auto pages = std::make_shared<Peer>("library", Shape {100, 6, 2, 10, true});
+    const auto literalPages = std::make_shared<Peer>("literal", Shape {100, 6, 2, 10, true});
+    const auto asked = [](const std::shared_ptr<Peer> &peer, const char *command) {
+        return [peer, command] {
+            return peer->ask(command);
+        };
+    };
 
     Subject subject;
     subject.name = QLatin1String("theme switch");
     subject.rounds = 15;
     subject.quickRounds = 5;
     // A switch that leaves something in the old colors would be fast.
-    subject.prepare = [library, literal] {
+    subject.prepare = [library, literal, pages, literalPages] {
         QList<double> pictures;
         for (int i = 0; i < 2; ++i) {
             const double ours = library->ask(Picture);
@@ -287,34 +400,45 @@ bench::Subject bench::themeSwitch()
             if (pictures.contains(ours))
                 return QStringLiteral("the two themes look the same");
             pictures << ours;
-            library->ask(Switch);
-            literal->ask(Switch);
+            if (pages->ask(Picture) != literalPages->ask(Picture))
+                return QStringLiteral("the pages of the library look different from the literal ones");
+            for (Peer *peer : {library.get(), literal.get(), pages.get(), literalPages.get()})
+                peer->ask(Switch);
         }
         return QString();
     };
     subject.variants = {
-        {Library,
-         [library] {
-             return library->ask(Switch);
-         }},
-        {LibraryAgain,
-         [library] {
-             return library->ask(Again);
-         }},
-        {Literal,
-         [literal] {
-             return literal->ask(Switch);
-         }},
-        {Palette,
-         [palette] {
-             return palette->ask(Switch);
-         }},
+        {Library, asked(library, Switch)},
+        {LibraryAgain, asked(library, Again)},
+        {Literal, asked(literal, Switch)},
+        {Palette, asked(palette, Switch)},
+        {ApplicationSheet, asked(application, Switch)},
+        {Depth4, asked(depth4, Switch)},
+        {Depth8, asked(depth8, Switch)},
+        {Fivefold, asked(fivefold, Switch)},
+        {Pages, asked(pages, Switch)},
+        {LiteralPages, asked(literalPages, Switch)},
+        {First, asked(library, ChildrenFirst)},
+        {LiteralFirst, asked(literal, ChildrenFirst)},
+        {Calls, asked(library, HeapCalls), Variant::Count},
+        {AllowedCalls, [] { return 300.0; }, Variant::Count},
+        {KiB, [library, plain] { return (library->ask(Memory) - plain->ask(Memory)) / Shape().widgets; },
+         Variant::Count},
+        {AllowedKiB, [] { return 9.0; }, Variant::Count},
     };
     const QLatin1String measure("theme switch, 1,000 widgets, depth 6");
     subject.rows = {
         {measure, Library, Palette, 4.3},
         {measure, Library, Literal, 0.16},
         {QLatin1String("theme switch, announced again with equal sets"), LibraryAgain, Literal, 0.001},
+        {measure, Library, ApplicationSheet, 0.28},
+        {QLatin1String("theme switch, depth 8 against 4"), Depth8, Depth4, 1.1},
+        {QLatin1String("theme switch, 5,000 widgets against 1,000"), Fivefold, Library, 5.3},
+        {QLatin1String("theme switch, ten pages, one visible"), Pages, LiteralPages, 0.025},
+        {QLatin1String("theme switch, ten pages against all visible"), Pages, Literal, 0.025},
+        {QLatin1String("theme switch, first styling, children first"), First, LiteralFirst, 0.13},
+        {QLatin1String("theme switch, heap calls for each widget"), Calls, AllowedCalls, 1},
+        {QLatin1String("theme switch, memory for each widget, over a plain one"), KiB, AllowedKiB, 1},
     };
     return subject;
 }

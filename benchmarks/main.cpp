@@ -12,6 +12,7 @@ int main(int argc, char **argv)
 {
     // What is drawn goes nowhere, so that no display server takes part in any figure.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
     if (argc == 3 && std::strcmp(argv[1], "--theme-switch") == 0)
         return bench::runThemeSwitchProcess(argc, argv);
     // Qt complains at each start where the session has no such folder, and writing that would be measured too.
@@ -40,5 +41,6 @@ int main(int argc, char **argv)
     subjects.push_back(bench::labels());
     for (const bench::Subject &subject : bench::models())
         subjects.push_back(subject);
+    subjects.push_back(bench::qml());
     return bench::run(subjects, parser.value(rows), parser.isSet(quick)) ? 0 : 1;
 }

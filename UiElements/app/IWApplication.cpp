@@ -2,6 +2,10 @@
 
 #include "IWApplication_p.h"
 
+#include <UiElements/qml/WQmlEngine.h>
+
+#include <QTimer>
+
 IWApplication::IWApplication(int &argc, char **argv)
     : QApplication(argc, argv)
     , d(std::make_unique<IWApplicationPrivate>())
@@ -9,7 +13,11 @@ IWApplication::IWApplication(int &argc, char **argv)
     qRegisterMetaType<WColorSet>("WColorSet");
 }
 
-IWApplication::~IWApplication() = default;
+IWApplication::~IWApplication()
+{
+    d->isShuttingDown = true;
+    delete d->qmlEngine; // without an event loop nobody else does
+}
 
 const WColorSets &IWApplication::getColorSets() const
 {
@@ -43,7 +51,18 @@ bool IWApplication::animationsDisabled() const
 
 WQmlEngine *IWApplication::getQmlEngine() const
 {
-    return nullptr;
+    if (!d->qmlEngine && !d->isShuttingDown) {
+        qInfo("[UILifecycle][Startup] Creating WQmlEngine.");
+        d->qmlEngine = new WQmlEngine(nullptr);
+        connect(this, &QCoreApplication::aboutToQuit, d->qmlEngine.data(), &QObject::deleteLater);
+        connect(this, &QCoreApplication::aboutToQuit, d->qmlEngine.data(), [this] {
+            d->isShuttingDown = true;
+            // Where an event loop runs again the application has not ended after all.
+            QTimer::singleShot(0, this, [this] { d->isShuttingDown = false; });
+        });
+        qInfo("[UILifecycle][Startup] Finished creating WQmlEngine.");
+    }
+    return static_cast<WQmlEngine *>(d->qmlEngine.data());
 }
 
 void IWApplication::setColorSets(const WColorSets &sets)

@@ -32,7 +32,8 @@ public:
     bool getIsDarkTheme() const;
     bool getIsHighContrastTheme() const;
     bool animationsDisabled() const;
-    /// Null: this version has no QML engine to offer.
+    /// Made when it is first asked for. It belongs to nobody and ends when the application is about to quit, or at the
+    /// latest with the application object; null from then on.
     WQmlEngine *getQmlEngine() const;
 
     /// Replaces the sets whole and emits colorSetsChanged(), equal sets included.

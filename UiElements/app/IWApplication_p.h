@@ -3,6 +3,9 @@
 #include <UiElements/app/IWApplication.h>
 #include <UiElements/theme/ThemeRegistry_p.h>
 
+#include <QObject>
+#include <QPointer>
+
 class IWApplicationPrivate
 {
 public:
@@ -14,4 +17,6 @@ public:
     bool isDarkTheme = false;
     bool isHighContrastTheme = false;
     bool animationsDisabled = false;
+    QPointer<QObject> qmlEngine;
+    bool isShuttingDown = false;
 };

@@ -1,0 +1,122 @@
+#include "QmlEngineHub_p.h"
+
+#include <UiElements/qml/WQmlEngine.h>
+
+#include <QDir>
+#include <QQmlComponent>
+#include <QQmlContext>
+
+#include <algorithm>
+
+QmlEngineHub::QmlEngineHub(WQmlEngine *engine)
+    : m_engine(engine)
+{
+}
+
+QmlEngineHub::~QmlEngineHub()
+{
+    qDeleteAll(m_components);
+}
+
+QmlEngineHub *QmlEngineHub::of(const WQmlEngine *engine)
+{
+    return engine->m_hub.get();
+}
+
+bool QmlEngineHub::isInsideRoot(const QString &source)
+{
+    QString path = source;
+    // Until nothing is left to decode: "%252e" is "%2e" to whoever decodes once.
+    for (QString decoded;; path = decoded) {
+        decoded = QString::fromUtf8(QByteArray::fromPercentEncoding(path.toUtf8()));
+        if (decoded.size() >= path.size())
+            break;
+    }
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    const int colon = path.indexOf(QLatin1Char(':'));
+    const int slash = path.indexOf(QLatin1Char('/'));
+    const bool hasScheme = colon >= 0 && (slash < 0 || colon < slash);
+    const QString clean = QDir::cleanPath(path);
+    return !hasScheme && slash != 0 && clean != QLatin1String(".") && clean != QLatin1String("..")
+        && !clean.startsWith(QLatin1String("../")) && !path.contains(QChar::Null);
+}
+
+QUrl QmlEngineHub::url(const QString &source) const
+{
+    if (m_engine->isReadingQmlFromDisk())
+        return QUrl::fromLocalFile(QDir::cleanPath(m_engine->qmlDirectory() + QLatin1Char('/') + source));
+    QUrl url;
+    url.setScheme(QStringLiteral("qrc"));
+    url.setPath(QLatin1String("/Qml/") + source);
+    return url;
+}
+
+QObject *QmlEngineHub::create(QQmlComponent *spare, const QVariantMap &properties, QList<QQmlError> *errors)
+{
+    const QUrl url = spare->url();
+    QQmlComponent *&kept = m_components[url];
+    if (!kept)
+        kept = new QQmlComponent(m_engine, url);
+    const QPointer<QQmlComponent> component(m_busy.contains(kept) ? spare : kept);
+    if (!component->isReady()) { // creating would crash
+        *errors = component->errors();
+        if (component != spare) {
+            m_components.remove(url);
+            delete component;
+        }
+        return nullptr;
+    }
+    m_busy.insert(component);
+    const QPointer<QmlEngineHub> self(this);
+    // As createWithInitialProperties() does, which forgets an object that lacks a required property.
+    QPointer<QObject> object(component->beginCreate(m_engine->rootContext()));
+    if (object && !properties.isEmpty())
+        component->setInitialProperties(object, properties);
+    if (object && component)
+        component->completeCreate();
+    if (!self)
+        return object;
+    m_busy.remove(component);
+    if (component && component->isError()) {
+        *errors = component->errors();
+        delete object;
+        if (component != spare) {
+            m_components.remove(url);
+            component->deleteLater();
+        }
+    }
+    if (!object)
+        return nullptr;
+    if (url.isLocalFile()) {
+        if (m_made.size() >= m_pruneAt) {
+            m_made.erase(std::remove_if(m_made.begin(), m_made.end(), [](const Made &made) { return !made.object; }),
+                         m_made.end());
+            m_pruneAt = qMax(64, 2 * m_made.size());
+        }
+        m_made.append({object, url});
+    }
+    return object;
+}
+
+void QmlEngineHub::unload(bool forGood)
+{
+    Q_EMIT unloadRequested(forGood);
+    for (QQmlComponent *component : qAsConst(m_components)) {
+        // One that is at work right now makes its object first.
+        if (m_busy.contains(component) && !forGood)
+            component->deleteLater();
+        else
+            delete component;
+    }
+    m_components.clear();
+}
+
+QStringList QmlEngineHub::alive() const
+{
+    QStringList names;
+    for (const Made &made : m_made) {
+        if (made.object)
+            names << made.url.fileName();
+    }
+    return names;
+}
