@@ -40,13 +40,11 @@ private Q_SLOTS:
     void lineOfText();
     void elidedText_data();
     void elidedText();
-    void badgeDoesNotCoverText_data();
     void badgeDoesNotCoverText();
     void colorsOfStates_data();
     void colorsOfStates();
     void colorsFollow();
     void whichIcon();
-    void innerIcon_data();
     void innerIcon();
     void styleDrawsQIcon();
     void richText();
@@ -272,6 +270,10 @@ void tst_SvgButtons::hints_data()
         b->setAnchorSvgOn(file("full.svg"));
         b->setAnchorSvgOff(file("half.svg"));
     });
+    row("as large as it goes", {2 * QWIDGETSIZE_MAX, 0}, [](auto *b) {
+        b->setTextLeftPadding(QWIDGETSIZE_MAX);
+        b->setTextRightPadding(QWIDGETSIZE_MAX);
+    });
     row("hidden anchor", {8, 0}, [this](auto *b) {
         b->setAnchorSvgOn(file("full.svg"));
         b->setAnchorSvgVisible(false);
@@ -427,27 +429,21 @@ void tst_SvgButtons::elidedText()
     QCOMPARE(toolTipOf(&button), QStringLiteral("own"));
 }
 
-void tst_SvgButtons::badgeDoesNotCoverText_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("left to right") << Qt::LeftToRight;
-    QTest::newRow("right to left") << Qt::RightToLeft;
-}
-
 void tst_SvgButtons::badgeDoesNotCoverText()
 {
-    QFETCH(Qt::LayoutDirection, direction);
-    WSvgPushButton button(QStringLiteral("HHHHHHHHHHHHHHHH"));
-    setLook(&button, QSize(90, 20));
-    button.setTextHorAlign(WEnum::HorAlign::Right);
-    button.setLayoutDirection(direction);
-    shot(&button);
-    button.setBadgeVisible(true);
-    const QImage image = shot(&button);
-    const QRect badge = direction == Qt::LeftToRight ? QRect(80, 0, 10, 10) : QRect(0, 0, 10, 10);
-    const QRect yellow = extent(image, [](const QColor &c) { return c.blue() < 100 && c.red() > 200; });
-    QVERIFY(badge.contains(yellow) && yellow.width() >= 8);
-    QVERIFY(!textOf(image).adjusted(-1, 0, 1, 0).intersects(badge.adjusted(1, 0, -1, 0)));
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        WSvgPushButton button(QStringLiteral("HHHHHHHHHHHHHHHH"));
+        setLook(&button, QSize(90, 20));
+        button.setTextHorAlign(WEnum::HorAlign::Right);
+        button.setLayoutDirection(direction);
+        shot(&button);
+        button.setBadgeVisible(true);
+        const QImage image = shot(&button);
+        const QRect badge = direction == Qt::LeftToRight ? QRect(80, 0, 10, 10) : QRect(0, 0, 10, 10);
+        const QRect yellow = extent(image, [](const QColor &c) { return c.blue() < 100 && c.red() > 200; });
+        QVERIFY(badge.contains(yellow) && yellow.width() >= 8);
+        QVERIFY(!textOf(image).adjusted(-1, 0, 1, 0).intersects(badge.adjusted(1, 0, -1, 0)));
+    }
 }
 
 void tst_SvgButtons::colorsOfStates_data()
@@ -585,29 +581,24 @@ void tst_SvgButtons::whichIcon()
     QCOMPARE(drawn(), 0);
 }
 
-void tst_SvgButtons::innerIcon_data()
-{
-    QTest::addColumn<int>("ratio");
-    QTest::newRow("1x") << 1;
-    QTest::newRow("2x") << 2;
-}
-
 void tst_SvgButtons::innerIcon()
 {
-    QFETCH(int, ratio);
-    WSvgPushButton button;
-    setLook(&button, QSize(60, 40));
-    button.setInnerSvgIcon(file("full.svg"));
-    button.setInnerSvgIconColorSet(QStringLiteral("anchor"));
-    button.setInnerSvgIconSize(QSize(8, 8));
-    QVERIFY(ofColor(shot(&button, ratio), QColor(0, 255, 0)).isEmpty()); // nothing that it could be in
-    button.setSvgIcon(file("full.svg"));
-    const QPoint at = ofColor(shot(&button, ratio), QColor(255, 0, 0)).topLeft();
-    QCOMPARE(ofColor(shot(&button, ratio), QColor(0, 255, 0)), QRect(at + QPoint(4, 4) * ratio, QSize(8, 8) * ratio));
-    button.setInnerSvgIconSize(QSize(7, 7)); // at 4.5: its edges are whole pixels only where there are two of them
-    QCOMPARE(ofColor(shot(&button, ratio), QColor(0, 255, 0)).size(), ratio == 1 ? QSize(6, 6) : QSize(14, 14));
-    button.setSvgIconVisible(false);
-    QVERIFY(ofColor(shot(&button, ratio), QColor(0, 255, 0)).isEmpty());
+    for (const int ratio : {1, 2}) {
+        WSvgPushButton button;
+        setLook(&button, QSize(60, 40));
+        button.setInnerSvgIcon(file("full.svg"));
+        button.setInnerSvgIconColorSet(QStringLiteral("anchor"));
+        button.setInnerSvgIconSize(QSize(8, 8));
+        QVERIFY(ofColor(shot(&button, ratio), QColor(0, 255, 0)).isEmpty()); // nothing that it could be in
+        button.setSvgIcon(file("full.svg"));
+        const QPoint at = ofColor(shot(&button, ratio), QColor(255, 0, 0)).topLeft();
+        QCOMPARE(ofColor(shot(&button, ratio), QColor(0, 255, 0)),
+                 QRect(at + QPoint(4, 4) * ratio, QSize(8, 8) * ratio));
+        button.setInnerSvgIconSize(QSize(7, 7)); // at 4.5: its edges are whole pixels only where there are two of them
+        QCOMPARE(ofColor(shot(&button, ratio), QColor(0, 255, 0)).size(), ratio == 1 ? QSize(6, 6) : QSize(14, 14));
+        button.setSvgIconVisible(false);
+        QVERIFY(ofColor(shot(&button, ratio), QColor(0, 255, 0)).isEmpty());
+    }
 }
 
 void tst_SvgButtons::styleDrawsQIcon()
@@ -665,7 +656,7 @@ void tst_SvgButtons::richText()
     QVERIFY(!ofColor(shot(&button), QColor(100, 80, 0)).isEmpty());
     QCOMPARE(toolTipOf(&button), QString());
     button.resize(40, 40);
-    QCOMPARE(toolTipOf(&button), QStringLiteral("____"));
+    QVERIFY(toolTipOf(&button).contains(QStringLiteral("____")));
 }
 
 void tst_SvgButtons::richTextReadsNoFiles()
@@ -673,10 +664,30 @@ void tst_SvgButtons::richTextReadsNoFiles()
     WSvgPushButton button;
     setLook(&button, QSize(100, 60));
     button.setTextFormat(Qt::RichText);
-    for (const QString &source : {file("blue.png"), QUrl::fromLocalFile(file("blue.png")).toString()}) {
-        button.setText(QStringLiteral("<img src=\"%1\" width=\"20\" height=\"20\">").arg(source));
-        QVERIFY(ofColor(shot(&button), QColor(0, 0, 255)).isEmpty());
+    // Also a file whose path is read like that of a resource.
+    const QString folder = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(m_dir.path()) && QDir().mkdir(QStringLiteral("qrc:")));
+    QVERIFY(QFile::copy(QStringLiteral("blue.png"), QStringLiteral("qrc:/blue.png")));
+    const QStringList texts {QStringLiteral("<img src='%1' width='20' height='20' alt='words'>"),
+                             QStringLiteral("<p style=\"background-image: url('%1')\">words</p>"),
+                             QStringLiteral("<table background='%1'><tr><td>words</td></tr></table>"),
+                             QStringLiteral("<body background='%1'>words</body>")};
+    for (const QString &source : {file("blue.png"), QUrl::fromLocalFile(file("blue.png")).toString(),
+                                  QStringLiteral("blue.png"), QStringLiteral("qrc:/blue.png")}) {
+        for (const QString &text : texts) {
+            button.setText(text.arg(source));
+            QVERIFY2(ofColor(shot(&button), QColor(0, 0, 255)).isEmpty(), qPrintable(button.text()));
+            QCOMPARE(button.plainText().trimmed(), QStringLiteral("words"));
+        }
     }
+    QVERIFY(QDir::setCurrent(folder));
+    // Nor a style sheet.
+    QFile sheet(file("blue.css"));
+    QVERIFY(sheet.open(QIODevice::WriteOnly) && sheet.write("p { color: #0000ff; }") > 0);
+    sheet.close();
+    button.setText(QStringLiteral("<html><head><style>@import url('%1');</style></head><body><p>____</p></body></html>")
+                       .arg(sheet.fileName()));
+    QVERIFY(ofColor(shot(&button), QColor(0, 0, 255)).isEmpty());
     button.setText(QStringLiteral("<img src=\":/Resources/mic-filled_16.svg\" width=\"20\" height=\"20\">"));
     const QRect drawn = extent(shot(&button), [](const QColor &c) { return c != Background; });
     QVERIFY(!drawn.isEmpty());
@@ -689,14 +700,17 @@ void tst_SvgButtons::badInput_data()
     QTest::newRow("icon size") << QByteArray("svgIconSize") << QVariant(QSize(-1, 4));
     QTest::newRow("inner size") << QByteArray("innerSvgIconSize") << QVariant(QSize());
     QTest::newRow("anchor size") << QByteArray("anchorIconSize") << QVariant(QSize(4, -1));
+    QTest::newRow("huge size") << QByteArray("svgIconSize") << QVariant(QSize(3, INT_MAX));
     QTest::newRow("left padding") << QByteArray("textLeftPadding") << QVariant(-1);
+    QTest::newRow("huge left padding") << QByteArray("textLeftPadding") << QVariant(INT_MAX);
+    QTest::newRow("huge icon padding") << QByteArray("svgIconTopLeftPadding") << QVariant(QPoint(0, INT_MAX));
+    QTest::newRow("huge offset") << QByteArray("anchorSvgOffset") << QVariant(INT_MIN);
     QTest::newRow("right padding") << QByteArray("textRightPadding") << QVariant(-1);
     QTest::newRow("anchor padding") << QByteArray("anchorPadding") << QVariant(-1);
     QTest::newRow("icon padding") << QByteArray("svgIconTopLeftPadding") << QVariant(QPoint(2, -1));
     QTest::newRow("other icon padding") << QByteArray("svgIconBottomRightPadding") << QVariant(QPoint(-1, 2));
     QTest::newRow("alignment") << QByteArray("svgIconAlignment") << QVariant(9);
     QTest::newRow("text alignment") << QByteArray("textHorAlign") << QVariant(-1);
-    QTest::newRow("format") << QByteArray("textFormat") << QVariant(17);
 }
 
 void tst_SvgButtons::badInput()
@@ -993,6 +1007,7 @@ void tst_SvgButtons::deletedByItsSlots()
         [](WPillTabButton *b) { b->onThemeChanged(); },
         [this](WPillTabButton *b) { b->setSvgIcon(file("full.svg")); },
         [](WPillTabButton *b) { b->setSvgIconColorSet(QStringLiteral("icon")); },
+        [](WPillTabButton *b) { b->setIconColorSet(QStringLiteral("icon")); },
         [](WPillTabButton *b) { b->setSvgIconSize(QSize(20, 20)); },
     };
     for (const auto &call : calls) {
@@ -1020,6 +1035,8 @@ void tst_SvgButtons::accessible()
     QVERIFY(interface);
     QCOMPARE(interface->role(), QAccessible::Button);
     QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Send it"));
+    button.setText(QStringLiteral("<img src=':/Resources/mic-filled_16.svg' alt='Microphone'> on"));
+    QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Microphone on"));
     QSignalSpy clicked(&button, &WSvgPushButton::clicked);
     interface->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QTRY_COMPARE(clicked.count(), 1);

@@ -1,10 +1,11 @@
 #include <UiElements/controls/WEmojiLabel.h>
 
+#include "Checks_p.h"
+
 #include <UiElements/emoji/EmojiConverter.h>
 #include <UiElements/emoji/EmojiResources.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QDebug>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QMetaMethod>
@@ -93,6 +94,13 @@ std::vector<Part> partsOf(const QString &line)
     }
     add(rich.size(), false);
     return parts;
+}
+
+// A line of nothing but images would be too low for them. What has no width, and belongs to the image where lines are
+// broken, makes it as high as one of letters.
+QString withLineHeight(QString rich)
+{
+    return rich.replace(QLatin1Char('>'), QStringLiteral(">\u200c")); // in what is escaped only images have one
 }
 
 int edgeOf(const QFontMetricsF &metrics)
@@ -244,7 +252,7 @@ WEmojiLabel::~WEmojiLabel() = default;
 
 void WEmojiLabel::init()
 {
-    QLabel::setTextFormat(Qt::PlainText);
+    QLabel::setTextFormat(Qt::PlainText); // clazy:exclude=skipped-base-method
     connect(this, &WLabel::cssChanged, this, &WEmojiLabel::onCssChanged);
 }
 
@@ -252,9 +260,7 @@ void WEmojiLabel::init()
 
 void WEmojiLabel::setTextLeftPadding(int pixels)
 {
-    if (pixels < 0) {
-        qWarning() << "WEmojiLabel::setTextLeftPadding - Invalid padding:" << pixels;
-    } else if (m_leftPadding != pixels) {
+    if (m_leftPadding != pixels && Checks::padding(this, "setTextLeftPadding", pixels)) {
         m_leftPadding = pixels;
         invalidateText();
     }
@@ -262,9 +268,7 @@ void WEmojiLabel::setTextLeftPadding(int pixels)
 
 void WEmojiLabel::setTextRightPadding(int pixels)
 {
-    if (pixels < 0) {
-        qWarning() << "WEmojiLabel::setTextRightPadding - Invalid padding:" << pixels;
-    } else if (m_rightPadding != pixels) {
+    if (m_rightPadding != pixels && Checks::padding(this, "setTextRightPadding", pixels)) {
         m_rightPadding = pixels;
         invalidateText();
     }
@@ -339,7 +343,7 @@ void WEmojiLabel::invalidateText()
 void WEmojiLabel::noticeText() const
 {
     ensurePlain();
-    const QString text = QLabel::text();
+    const QString text = shownText();
     if (m_source == text)
         return;
     m_source = text;
@@ -370,7 +374,7 @@ bool WEmojiLabel::showsImages() const
 QString WEmojiLabel::getElidedText() const
 {
     if (!showsImages())
-        return elides() && !wordWrap() ? elidedText() : QLabel::text();
+        return elides() && !wordWrap() ? elidedText() : shownText();
     updateText(WLabel::textRect().width());
     return m_elidedText;
 }
@@ -448,7 +452,7 @@ void WEmojiLabel::build(const QStringList &lines) const
     EmojiConverter converter(1, EmojiConverter::SvgFileTag);
     QString html = QStringLiteral("<div ") + style + QLatin1Char('>');
     for (int i = 0; i < lines.size(); ++i)
-        html += (i > 0 ? QStringLiteral("<br>") : QString()) + converter.toRichText(lines.at(i));
+        html += (i > 0 ? QStringLiteral("<br>") : QString()) + withLineHeight(converter.toRichText(lines.at(i)));
     html += QStringLiteral("</div>");
 
     if (!m_document)

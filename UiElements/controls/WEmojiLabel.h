@@ -53,7 +53,7 @@ public:
 
 Q_SIGNALS:
     /// Comes with that of WLabel.
-    void clicked();
+    void clicked(); // clazy:exclude=overridden-signal
 
 public Q_SLOTS:
     void setText(const QString &_text) override;

@@ -1,5 +1,8 @@
 #include <UiElements/controls/WLabel.h>
 
+#include "Checks_p.h"
+#include "ControlText_p.h"
+
 #include <UiElements/emoji/EmojiConverter.h>
 #include <UiElements/emoji/EmojiData.h>
 #include <UiElements/icons/DrawUtils.h>
@@ -9,7 +12,6 @@
 #include <QAccessibleWidget>
 #include <QClipboard>
 #include <QDebug>
-#include <QFile>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -18,86 +20,19 @@
 #include <QPointer>
 #include <QRegularExpression>
 #include <QStyleOption>
-#include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QToolTip>
-#include <QUrl>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-// Nobody reads more than this in a label, and laying out takes time for every character.
-constexpr int LongestShown = 10000;
-constexpr int LongestToolTip = 1000;
 constexpr QChar Ellipsis(0x2026);
 
 const auto LinkStyle = QStringLiteral("<style type = \"text/css\">a:link{text-decoration: underline; color:%1;} "
                                       "a:visited{color:%2;} a:hover{color:%3;}</style>%4");
-
-bool isInResources(const QString &name)
-{
-    if (name.startsWith(QLatin1String(":/")))
-        return QFile::exists(name);
-    return name.startsWith(QLatin1String("qrc:/")) && QFile::exists(name.mid(3));
-}
-
-// Reads no files while it parses.
-class GuardedDocument : public QTextDocument
-{
-public:
-    GuardedDocument(const QString &text, Qt::TextFormat format)
-    {
-        setUndoRedoEnabled(false);
-        if (format == Qt::MarkdownText)
-            setMarkdown(text);
-        else
-            setHtml(text);
-    }
-
-    /// True when there was something from outside, which is gone now.
-    bool removeOutside()
-    {
-        struct Place
-        {
-            int position;
-            int length;
-            QString text;
-        };
-        std::vector<Place> places;
-        for (QTextBlock block = begin(); block.isValid(); block = block.next()) {
-            for (auto it = block.begin(); !it.atEnd(); ++it) {
-                const QTextFragment fragment = it.fragment();
-                const QTextImageFormat image = fragment.charFormat().toImageFormat();
-                if (image.isValid() && !isInResources(image.name()))
-                    places.push_back(
-                        {fragment.position(), fragment.length(), image.property(QTextFormat::ImageAltText).toString()});
-            }
-        }
-        for (auto place = places.rbegin(); place != places.rend(); ++place) {
-            QTextCursor cursor(this);
-            cursor.setPosition(place->position);
-            cursor.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
-            cursor.insertText(place->text, QTextCharFormat());
-        }
-        return m_wasRefused || !places.empty();
-    }
-
-protected:
-    QVariant loadResource(int type, const QUrl &name) override
-    {
-        if (isInResources(name.toString()))
-            return QTextDocument::loadResource(type, name);
-        m_wasRefused = true;
-        return QVariant();
-    }
-
-private:
-    bool m_wasRefused = false;
-};
 
 // Most rich texts name nothing outside of themselves, and need not be parsed twice.
 bool mayNameFiles(const QString &text)
@@ -310,11 +245,7 @@ void WLabel::setElideMode(Qt::TextElideMode mode)
 
 void WLabel::setElidePadding(int pixels)
 {
-    if (pixels < 0) {
-        qWarning() << "WLabel::setElidePadding - Invalid padding:" << pixels;
-        return;
-    }
-    if (m_elidePadding == pixels)
+    if (m_elidePadding == pixels || !Checks::padding(this, "setElidePadding", pixels))
         return;
     m_elidePadding = pixels;
     invalidateText();
@@ -343,6 +274,8 @@ void WLabel::setText(const QString &text)
 {
     if (m_text == text && QLabel::text() == m_shown && QLabel::pixmap(Qt::ReturnByValue).isNull())
         return;
+    if (text.isEmpty() && QLabel::text().isEmpty())
+        clear(); // of a picture, which QLabel keeps for an empty text
     m_text = text;
     m_pixmap = QPixmap();
     showText();
@@ -417,24 +350,10 @@ void WLabel::setOutsideImagesAllowed(bool allowed)
 
 // ---- text
 
-QString WLabel::cut(const QString &text, bool isMarkup)
-{
-    if (text.size() <= LongestShown)
-        return text;
-    int length = LongestShown;
-    if (text.at(length - 1).isHighSurrogate())
-        --length;
-    if (isMarkup) {
-        const int open = text.lastIndexOf(QLatin1Char('<'), length - 1);
-        if (open > text.lastIndexOf(QLatin1Char('>'), length - 1))
-            length = open;
-    }
-    return text.left(length) + Ellipsis;
-}
-
 void WLabel::showText()
 {
     m_shown = displayText();
+    m_isCut = ControlText::isLong(m_text);
     m_elided.width = -1;
     QLabel::setText(m_shown);
     placeText();
@@ -444,7 +363,7 @@ QString WLabel::displayText() const
 {
     const Qt::TextFormat format = textFormat();
     const bool isMarkup = format != Qt::PlainText && (format != Qt::AutoText || Qt::mightBeRichText(m_text));
-    const QString shown = cut(m_text, isMarkup);
+    const QString shown = ControlText::beginning(m_text, isMarkup);
     if (!isMarkup)
         return shown;
     const bool hasLinks = format == Qt::RichText && shown.contains(QLatin1String("<a"));
@@ -463,7 +382,8 @@ QString WLabel::safeText(const QString &text) const
 {
     if (m_outsideImagesAllowed || !mayNameFiles(text))
         return text;
-    GuardedDocument document(text, textFormat());
+    ControlText::GuardedDocument document;
+    document.setMarkup(text, textFormat());
     if (!document.removeOutside())
         return text;
     if (textFormat() == Qt::MarkdownText)
@@ -474,7 +394,7 @@ QString WLabel::safeText(const QString &text) const
     static const QRegularExpression background(QStringLiteral(" background=\"([^\"]*)\""));
     for (auto match = background.match(html); match.hasMatch();
          match = background.match(html, match.capturedStart() + 1)) {
-        if (!isInResources(match.captured(1)))
+        if (!ControlText::isInResources(match.captured(1)))
             html.replace(match.capturedStart(), match.capturedLength(), QLatin1Char(' '));
     }
     return html;
@@ -487,24 +407,25 @@ void WLabel::setEmojiCatalogue(const std::shared_ptr<const EmojiPicker::EmojiDat
 
 QString WLabel::spokenText() const
 {
-    QString text = QLabel::text();
-    if (!isPlain()) {
-        text = GuardedDocument(text, textFormat()).toPlainText();
-    } else if (buddy()) {
-        QString spoken;
-        for (int i = 0; i < text.size(); ++i) {
-            if (text.at(i) == QLatin1Char('&') && ++i == text.size())
-                break;
-            spoken += text.at(i);
-        }
-        text = spoken;
-    }
-    return EmojiPicker::EmojiConverter::spokenText(text, emojiCatalogue());
+    const QString text = QLabel::text();
+    return spokenText(!isPlain() ? markupAsText(text) : buddy() ? ControlText::withoutMnemonics(text) : text);
+}
+
+QString WLabel::spokenText(const QString &plainText)
+{
+    return EmojiPicker::EmojiConverter::spokenText(plainText, emojiCatalogue());
+}
+
+QString WLabel::markupAsText(const QString &text) const
+{
+    ControlText::GuardedDocument document;
+    document.setMarkup(text, textFormat());
+    return document.plainText();
 }
 
 void WLabel::copyText()
 {
-    QGuiApplication::clipboard()->setText(isPlain() ? text() : GuardedDocument(text(), textFormat()).toPlainText());
+    QGuiApplication::clipboard()->setText(isPlain() ? text() : markupAsText(text()));
 }
 
 void WLabel::selectAll()
@@ -648,7 +569,7 @@ QString WLabel::elidedText() const
 
 bool WLabel::isElided() const
 {
-    if (QLabel::text() == m_shown && m_shown.size() > LongestShown)
+    if (QLabel::text() == m_shown && m_isCut)
         return true;
     if (!elides() || QLabel::text().isEmpty())
         return false;
@@ -739,11 +660,7 @@ bool WLabel::event(QEvent *event)
 
 void WLabel::showToolTip(const QPoint &at)
 {
-    QString full = isPlain() ? text() : spokenText();
-    if (full.size() > LongestToolTip)
-        full = full.left(LongestToolTip) + Ellipsis;
-    // As markup, and escaped: only so it is broken into lines, and nothing in it is taken for markup.
-    QToolTip::showText(at, Qt::convertFromPlainText(full, Qt::WhiteSpaceNormal), this);
+    QToolTip::showText(at, ControlText::toolTip(isPlain() ? text() : spokenText()), this);
 }
 
 void WLabel::changeEvent(QEvent *event)

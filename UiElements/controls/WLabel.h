@@ -82,7 +82,9 @@ public:
     bool isClickable() const;
     /// What the screen reader says where no accessible name is set: the text without markup, emoji by their names.
     QString spokenText() const;
-    /// Where labels find the names of emoji. Without a catalogue emoji are left to the screen reader.
+    /// Emoji by their names, also for other elements.
+    static QString spokenText(const QString &plainText);
+    /// Where labels and buttons find the names of emoji. Without a catalogue emoji are left to the screen reader.
     static void setEmojiCatalogue(const std::shared_ptr<const EmojiPicker::EmojiData> &catalogue);
 
     QSize sizeHint() const override;
@@ -90,6 +92,7 @@ public:
     int heightForWidth(int width) const override;
 
     W_THEME_SIGNALS
+Q_SIGNALS:
     /// By mouse, by key, or by the press action of the accessibility interface.
     void clicked();
     /// The label was shown or hidden; minimizing its window does not count.
@@ -131,8 +134,11 @@ protected:
     /// QLabel's own painting would not do.
     virtual bool drawsItself() const;
     bool isSelectable() const;
-    /// For texts that are absurdly long: the beginning.
-    static QString cut(const QString &text, bool isMarkup);
+    /// What QLabel was given to show.
+    QString shownText() const
+    {
+        return QLabel::text();
+    }
     /// QLabel shows the text as it is, without markup.
     bool isPlain() const;
     /// Where the text goes.
@@ -157,6 +163,7 @@ private:
     void updateFocusPolicy();
     void selectAll();
     QString safeText(const QString &text) const;
+    QString markupAsText(const QString &text) const;
     QString withLinkColors(const QString &text) const;
     void showToolTip(const QPoint &at);
 
@@ -181,4 +188,5 @@ private:
     int m_elidePadding = 0;
     bool m_outsideImagesAllowed = false;
     bool m_gaveTabFocus = false;
+    bool m_isCut = false;
 };

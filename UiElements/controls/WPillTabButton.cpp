@@ -1,5 +1,7 @@
 #include <UiElements/controls/WPillTabButton.h>
 
+#include "ControlText_p.h"
+
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPointer>
@@ -79,7 +81,10 @@ int WPillTabButton::radius() const
 void WPillTabButton::onApplyCSS(bool isChecked)
 {
     const Group &group = isChecked ? m_checked : m_normal;
+    const QPointer<WPillTabButton> alive(this);
     setSvgIconColorSet(group.icon);
+    if (!alive)
+        return;
     m_appliedRadius = radius();
     // Before there is a theme each name would be reported as unknown.
     if (WThemeUtils::getWColorSetsByThemeType(WThemeUtils::getThemeTypeOfWidget(this)).empty())
@@ -124,8 +129,8 @@ void WPillTabButton::limitWidth()
     if (!m_limitsWidth)
         return;
     const int iconWidth = svgIcon().isEmpty() || !isSvgIconVisible() ? -1 : svgIconSize().width();
-    setMaximumWidth(iconWidth + fontMetrics().horizontalAdvance(text()) + textRightPadding() + textLeftPadding()
-                    + svgIconTopLeftPadding().x() + svgIconBottomRightPadding().x() + 2 * radius());
+    setMaximumWidth(iconWidth + fontMetrics().horizontalAdvance(ControlText::beginning(text())) + textRightPadding()
+                    + textLeftPadding() + svgIconTopLeftPadding().x() + svgIconBottomRightPadding().x() + 2 * radius());
 }
 
 void WPillTabButton::resizeEvent(QResizeEvent *event)

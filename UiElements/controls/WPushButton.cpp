@@ -1,5 +1,9 @@
 #include <UiElements/controls/WPushButton.h>
 
+#include "Checks_p.h"
+#include "ControlText_p.h"
+
+#include <UiElements/controls/WLabel.h>
 #include <UiElements/icons/DrawUtils.h>
 #include <UiElements/theme/WThemeUtils.h>
 
@@ -70,7 +74,7 @@ QString ButtonAccessible::name() const
 {
     if (!button()->accessibleName().isEmpty())
         return button()->accessibleName();
-    const QString plain = button()->plainText();
+    const QString plain = WLabel::spokenText(ControlText::beginning(button()->plainText()));
     return plain.isEmpty() ? QAccessibleWidget::text(QAccessible::Name) : plain; // that of a label beside it
 }
 
@@ -192,6 +196,10 @@ void WPushButton::init()
 
 void WPushButton::setElideMode(Qt::TextElideMode mode)
 {
+    if (mode < Qt::ElideLeft || mode > Qt::ElideNone) {
+        qWarning() << "WPushButton::setElideMode - Invalid elide mode:" << int(mode);
+        return;
+    }
     if (m_elideMode == mode)
         return;
     m_elideMode = mode;
@@ -201,11 +209,7 @@ void WPushButton::setElideMode(Qt::TextElideMode mode)
 
 void WPushButton::setElidePadding(int padding)
 {
-    if (padding < 0) {
-        qWarning() << "WPushButton::setElidePadding - Invalid padding:" << padding;
-        return;
-    }
-    if (m_elidePadding == padding)
+    if (m_elidePadding == padding || !Checks::padding(this, "setElidePadding", padding))
         return;
     m_elidePadding = padding;
     m_shownText.isMade = false;
@@ -217,8 +221,7 @@ void WPushButton::setFocusRectColorSet(const QString &name)
     if (m_focusRectColorSet == name)
         return;
     m_focusRectColorSet = name;
-    m_colorsAreRead = false;
-    update();
+    updateColors();
 }
 
 void WPushButton::setLongPressEnabled(bool enabled)
@@ -249,12 +252,25 @@ void WPushButton::announceNews()
 
 QSize WPushButton::sizeHint() const
 {
-    QSize hint = QPushButton::sizeHint();
+    const QString shown = ControlText::beginning(text());
+    QSize hint = ControlText::isLong(text()) ? hintFor(fontMetrics().size(Qt::TextShowMnemonic, shown))
+                                             : QPushButton::sizeHint();
     if (m_badgeVisible && !text().isEmpty()) {
-        const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+        const int textWidth = fontMetrics().size(Qt::TextShowMnemonic, shown).width();
         hint.setWidth(std::max(hint.width(), textWidth + iconRoom() + 2 * (badgeSize + badgeGap)));
     }
     return hint;
+}
+
+QSize WPushButton::hintFor(const QSize &contents) const
+{
+    ensurePolished();
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QSize size = contents;
+    if (menu())
+        size.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, size, this);
 }
 
 void WPushButton::onThemeChanged()
@@ -267,15 +283,7 @@ void WPushButton::onThemeChanged()
 
 QString WPushButton::plainText() const
 {
-    const QString marked = text();
-    QString plain;
-    plain.reserve(marked.size());
-    for (int i = 0; i < marked.size(); ++i) {
-        if (marked.at(i) == QLatin1Char('&') && ++i == marked.size())
-            break;
-        plain += marked.at(i);
-    }
-    return plain;
+    return ControlText::withoutMnemonics(text());
 }
 
 bool WPushButton::showsOnlyIcon() const
@@ -296,7 +304,7 @@ int WPushButton::badgeRoom() const
         return -1;
     const QFontMetrics metrics = fontMetrics();
     const int baseline = (height() - metrics.height()) / 2 + metrics.ascent();
-    if (baseline + metrics.tightBoundingRect(plainText()).top() >= badgeSize)
+    if (baseline + metrics.tightBoundingRect(ControlText::beginning(plainText())).top() >= badgeSize)
         return -1;
     return std::max(0, width() - iconRoom() - 2 * (badgeSize + badgeGap));
 }
@@ -309,7 +317,8 @@ const QString &WPushButton::shownText() const
         && m_shownText.source == source)
         return m_shownText.text;
 
-    m_shownText = {source, source, size(), iconWidth, true};
+    const QString beginning = ControlText::beginning(source);
+    m_shownText = {source, beginning, size(), iconWidth, true};
     const bool elides = m_elideMode != Qt::ElideNone;
     int room = elides ? std::max(0, width() - m_elidePadding) : -1;
     const int besideBadge = badgeRoom();
@@ -317,21 +326,19 @@ const QString &WPushButton::shownText() const
         room = elides ? std::min(room, besideBadge) : besideBadge;
     if (room >= 0)
         m_shownText.text =
-            fontMetrics().elidedText(source, elides ? m_elideMode : Qt::ElideRight, room, Qt::TextShowMnemonic);
+            fontMetrics().elidedText(beginning, elides ? m_elideMode : Qt::ElideRight, room, Qt::TextShowMnemonic);
     return m_shownText.text;
 }
 
 QString WPushButton::elidedFullText() const
 {
-    if (m_elideMode == Qt::ElideNone && !m_badgeVisible)
-        return QString();
     return shownText() == text() ? QString() : plainText();
 }
 
 void WPushButton::initStyleOption(QStyleOptionButton *option) const
 {
     QPushButton::initStyleOption(option);
-    if (m_elideMode != Qt::ElideNone || m_badgeVisible)
+    if (m_elideMode != Qt::ElideNone || m_badgeVisible || ControlText::isLong(option->text))
         option->text = shownText();
 }
 
@@ -369,6 +376,12 @@ void WPushButton::readColors() const
 QRect WPushButton::badgeRect() const
 {
     return QRect(isRightToLeft() ? 0 : width() - badgeSize, 0, badgeSize, badgeSize);
+}
+
+QColor WPushButton::focusColor() const
+{
+    readColors();
+    return m_focusColor;
 }
 
 void WPushButton::paintEvent(QPaintEvent *)
@@ -449,9 +462,7 @@ bool WPushButton::event(QEvent *event)
             const QString full = elidedFullText();
             if (full.isEmpty())
                 break;
-            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                               Qt::mightBeRichText(full) ? Qt::convertFromPlainText(full, Qt::WhiteSpaceNormal) : full,
-                               this);
+            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), ControlText::toolTip(full), this);
             return true;
         }
         break;

@@ -16,7 +16,8 @@ class QTimer;
 /// Return and Enter operate it like Space: pressed() when the key goes down, clicked() when it comes up. Default and
 /// auto-default buttons leave them to their dialog.
 ///
-/// While the text is shown elided and no tooltip is set, the tooltip is the full text. The focus frame surrounds the
+/// While the text is shown elided and no tooltip is set, the tooltip is the full text. Of a text longer than 10,000
+/// characters only the beginning is shown. The focus frame surrounds the
 /// button or the rectangle in the dynamic property "customFocusRect", then also "hasCustomRect" is true.
 ///
 /// A button without a text has its tooltip as accessible name where none is set. In debug builds one that shows only an
@@ -68,6 +69,7 @@ public:
     QSize sizeHint() const override;
 
     W_THEME_SIGNALS
+Q_SIGNALS:
     void onFocusIn();
     void onFocusOut();
     void longPressed();
@@ -113,7 +115,11 @@ protected:
     /// A set by its name for the button's theme type; an empty name gives a default set.
     WColorSet colorSet(const QString &name) const;
 
+    /// Of the focus frame. Invalid where the theme names none.
+    QColor focusColor() const;
     QRect badgeRect() const;
+    /// The size that the style gives a button around contents.
+    QSize hintFor(const QSize &contents) const;
     /// To be called when what showsNews() answers may have changed.
     void announceNews();
 

@@ -1,5 +1,7 @@
 #include <UiElements/controls/WSvgAnchorButton.h>
 
+#include "Checks_p.h"
+
 #include <UiElements/icons/WSvgIcon.h>
 
 #include <QMenu>
@@ -42,7 +44,7 @@ void WSvgAnchorButton::setAnchorSvgOff(const QString &path)
 
 void WSvgAnchorButton::setAnchorIconSize(const QSize &size)
 {
-    if (!checkSize("setAnchorIconSize", size))
+    if (!Checks::size(this, "setAnchorIconSize", size))
         return;
     m_anchorIconSize = size;
     for (WSvgIcon *icon : {m_anchorOn.get(), m_anchorOff.get()}) {
@@ -62,7 +64,7 @@ void WSvgAnchorButton::setAnchorSvgColorSet(const QString &name)
 
 void WSvgAnchorButton::setAnchorPadding(int padding)
 {
-    if (!checkPadding("setAnchorPadding", padding))
+    if (!Checks::padding(this, "setAnchorPadding", padding))
         return;
     m_anchorPadding = padding;
     arrangeAgain();
@@ -70,6 +72,10 @@ void WSvgAnchorButton::setAnchorPadding(int padding)
 
 void WSvgAnchorButton::setAnchorSvgOffset(int offset)
 {
+    if (qAbs(qint64(offset)) > QWIDGETSIZE_MAX) {
+        qWarning() << "WSvgAnchorButton::setAnchorSvgOffset - Invalid offset:" << offset;
+        return;
+    }
     m_anchorSvgOffset = offset;
     arrangeAgain();
 }

@@ -1,5 +1,7 @@
 #include <UiElements/controls/WSvgLabel.h>
 
+#include "Checks_p.h"
+
 #include <UiElements/icons/DrawUtils.h>
 #include <UiElements/icons/WSvgIcon.h>
 
@@ -35,20 +37,6 @@ void WSvgLabel::init()
 }
 
 // ---- properties
-
-bool WSvgLabel::checkSize(const char *function, const QSize &size) const
-{
-    if (!size.isValid())
-        qWarning().nospace() << "WSvgLabel::" << function << " - Invalid size: " << size;
-    return size.isValid();
-}
-
-bool WSvgLabel::checkPadding(const char *function, int padding) const
-{
-    if (padding < 0)
-        qWarning().nospace() << "WSvgLabel::" << function << " - Invalid padding: " << padding;
-    return padding >= 0;
-}
 
 void WSvgLabel::changeLayout()
 {
@@ -87,11 +75,20 @@ void WSvgLabel::setSvgIcon(const QString &path)
 
 WColorSet WSvgLabel::colorsOf(const QString &name) const
 {
-    if (!name.isEmpty())
-        return WThemeUtils::getColorSet(name.toStdString(), WThemeUtils::getThemeTypeOfWidget(this));
+    // One that this theme does not have was reported when it was named.
+    const WColorSets &sets = WThemeUtils::getWColorSetsByThemeType(WThemeUtils::getThemeTypeOfWidget(this));
+    const auto found = sets.find(name.toStdString());
+    if (found != sets.end())
+        return found->second;
     WColorSet colors;
     colors.fill(textColor());
     return colors;
+}
+
+WColorSet WSvgLabel::namedColors(const QString &name) const
+{
+    return name.isEmpty() ? colorsOf(name)
+                          : WThemeUtils::getColorSet(name.toStdString(), WThemeUtils::getThemeTypeOfWidget(this));
 }
 
 void WSvgLabel::setSvgIconColorSet(const QString &name)
@@ -100,12 +97,12 @@ void WSvgLabel::setSvgIconColorSet(const QString &name)
         return;
     m_colorSet = name;
     update();
-    Q_EMIT svgIconColorSetChanged(colorsOf(name));
+    Q_EMIT svgIconColorSetChanged(namedColors(name));
 }
 
 void WSvgLabel::setSvgIconSize(const QSize &size)
 {
-    if (m_size == size || !checkSize("setSvgIconSize", size))
+    if (m_size == size || !Checks::size(this, "setSvgIconSize", size))
         return;
     m_size = size;
     if (m_icon)
@@ -136,7 +133,7 @@ void WSvgLabel::setTextHorAlign(WEnum::HorAlign alignment)
 
 void WSvgLabel::setTextLeftPadding(int padding)
 {
-    if (m_textLeftPadding == padding || !checkPadding("setTextLeftPadding", padding))
+    if (m_textLeftPadding == padding || !Checks::padding(this, "setTextLeftPadding", padding))
         return;
     m_textLeftPadding = padding;
     changeLayout();
@@ -144,7 +141,7 @@ void WSvgLabel::setTextLeftPadding(int padding)
 
 void WSvgLabel::setTextRightPadding(int padding)
 {
-    if (m_textRightPadding == padding || !checkPadding("setTextRightPadding", padding))
+    if (m_textRightPadding == padding || !Checks::padding(this, "setTextRightPadding", padding))
         return;
     m_textRightPadding = padding;
     changeLayout();
@@ -152,8 +149,7 @@ void WSvgLabel::setTextRightPadding(int padding)
 
 void WSvgLabel::setSvgIconTopLeftPadding(const QPoint &padding)
 {
-    if (m_iconTopLeftPadding == padding
-        || !checkPadding("setSvgIconTopLeftPadding", std::min(padding.x(), padding.y())))
+    if (m_iconTopLeftPadding == padding || !Checks::padding(this, "setSvgIconTopLeftPadding", padding))
         return;
     m_iconTopLeftPadding = padding;
     changeLayout();
@@ -161,8 +157,7 @@ void WSvgLabel::setSvgIconTopLeftPadding(const QPoint &padding)
 
 void WSvgLabel::setSvgIconBottomRightPadding(const QPoint &padding)
 {
-    if (m_iconBottomRightPadding == padding
-        || !checkPadding("setSvgIconBottomRightPadding", std::min(padding.x(), padding.y())))
+    if (m_iconBottomRightPadding == padding || !Checks::padding(this, "setSvgIconBottomRightPadding", padding))
         return;
     m_iconBottomRightPadding = padding;
     changeLayout();
@@ -187,12 +182,13 @@ void WSvgLabel::setInnerSvgIconColorSet(const QString &name)
     if (m_innerColorSet == name)
         return;
     m_innerColorSet = name;
+    namedColors(name);
     update();
 }
 
 void WSvgLabel::setInnerSvgIconSize(const QSize &size)
 {
-    if (m_innerSize == size || !checkSize("setInnerSvgIconSize", size))
+    if (m_innerSize == size || !Checks::size(this, "setInnerSvgIconSize", size))
         return;
     m_innerSize = size;
     if (m_icon)
@@ -232,13 +228,13 @@ QSize WSvgLabel::iconBlock() const
 
 int WSvgLabel::paddings() const
 {
-    return QLabel::text().isEmpty() ? 0 : m_textLeftPadding + m_textRightPadding;
+    return shownText().isEmpty() ? 0 : m_textLeftPadding + m_textRightPadding;
 }
 
 // Only QLabel knows what is selected, and which link the mouse is at.
 bool WSvgLabel::isLaidOutByQt() const
 {
-    return isSelectable() || (!isPlain() && QLabel::text().contains(QLatin1String("<a"), Qt::CaseInsensitive));
+    return isSelectable() || (!isPlain() && shownText().contains(QLatin1String("<a"), Qt::CaseInsensitive));
 }
 
 void WSvgLabel::invalidateText()
@@ -289,9 +285,9 @@ QSize WSvgLabel::sizeHint() const
 QSize WSvgLabel::minimumSizeHint() const
 {
     const QSize icon = iconBlock();
-    QSize least = QLabel::minimumSizeHint();
+    QSize least = QLabel::minimumSizeHint(); // clazy:exclude=skipped-base-method
     if (!(isLaidOutByQt() && m_hasOwnIndent)) {
-        const bool elidesText = elideMode() != Qt::ElideNone && isPlain() && !wordWrap() && !QLabel::text().isEmpty();
+        const bool elidesText = elideMode() != Qt::ElideNone && isPlain() && !wordWrap() && !shownText().isEmpty();
         const int text = elidesText ? fontMetrics().horizontalAdvance(QChar(0x2026)) + elidePadding() : least.width();
         least.setWidth(std::min(sizeHint().width(), text + paddings() + (isBeside() ? icon.width() : 0)));
     }
@@ -309,7 +305,7 @@ int WSvgLabel::heightForWidth(int width) const
 
 QTextDocument *WSvgLabel::document() const
 {
-    if (isPlain() || QLabel::text().isEmpty())
+    if (isPlain() || shownText().isEmpty())
         return nullptr;
     if (!m_document) {
         m_document = std::make_unique<QTextDocument>();
@@ -318,8 +314,8 @@ QTextDocument *WSvgLabel::document() const
     }
     if (m_document->defaultFont() != font())
         m_document->setDefaultFont(font());
-    if (m_documentText != QLabel::text()) {
-        m_documentText = QLabel::text();
+    if (m_documentText != shownText()) {
+        m_documentText = shownText();
         if (textFormat() == Qt::MarkdownText)
             m_document->setMarkdown(m_documentText);
         else
@@ -367,7 +363,7 @@ void WSvgLabel::paintEvent(QPaintEvent *event)
     drawFrame(&painter);
     painter.setPen(textColor());
     const QRect rect = WLabel::textRect();
-    const QString shown = QLabel::text();
+    const QString shown = shownText();
     content.textColors.fill(textColor());
     content.metrics.textLeftPadding = m_textLeftPadding;
     content.metrics.textRightPadding = m_textRightPadding;

@@ -108,8 +108,7 @@ private:
     int paddings() const;
     QTextDocument *document() const;
     WColorSet colorsOf(const QString &name) const;
-    bool checkSize(const char *function, const QSize &size) const;
-    bool checkPadding(const char *function, int padding) const;
+    WColorSet namedColors(const QString &name) const; // reports an unknown one
     void changeLayout();
 
     std::unique_ptr<WSvgIcon> m_icon;

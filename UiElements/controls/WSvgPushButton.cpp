@@ -1,5 +1,8 @@
 #include <UiElements/controls/WSvgPushButton.h>
 
+#include "Checks_p.h"
+#include "ControlText_p.h"
+
 #include <UiElements/icons/DrawUtils.h>
 #include <UiElements/icons/WSvgIcon.h>
 
@@ -11,7 +14,6 @@
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <QTextDocument>
-#include <QUrl>
 #include <QtMath>
 
 #include <algorithm>
@@ -19,28 +21,6 @@
 namespace {
 
 constexpr int badgeGap = 2;
-
-// Texts come from anywhere: neither files nor servers are asked for their images. In the place of those stands one that
-// shows nothing, because Qt, answered with none, would look for a file of that name itself.
-class ButtonDocument : public QTextDocument
-{
-public:
-    using QTextDocument::QTextDocument;
-
-protected:
-    QVariant loadResource(int type, const QUrl &name) override
-    {
-        const bool isResource = name.scheme() == QLatin1String("qrc")
-            || (name.scheme().isEmpty() && name.path().startsWith(QLatin1String(":/")));
-        if (isResource)
-            return QTextDocument::loadResource(type, name);
-        if (type != QTextDocument::ImageResource)
-            return QVariant();
-        QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
-        nothing.fill(Qt::transparent);
-        return nothing;
-    }
-};
 
 QSize sizeOf(QTextDocument *document)
 {
@@ -108,20 +88,6 @@ void WSvgPushButton::init()
     setAttribute(Qt::WA_Hover);
     connect(this, &WSvgPushButton::svgIconColorSetChanged, this, &WSvgPushButton::onSvgIconColorSetChanged);
     connect(this, &WSvgPushButton::svgIconSizeChanged, this, &WSvgPushButton::onSvgIconSizeChanged);
-}
-
-bool WSvgPushButton::checkSize(const char *function, const QSize &size) const
-{
-    if (!size.isValid())
-        qWarning().nospace() << metaObject()->className() << "::" << function << " - Invalid size: " << size;
-    return size.isValid();
-}
-
-bool WSvgPushButton::checkPadding(const char *function, int padding) const
-{
-    if (padding < 0)
-        qWarning().nospace() << metaObject()->className() << "::" << function << " - Invalid padding: " << padding;
-    return padding >= 0;
 }
 
 bool WSvgPushButton::assignIcon(std::unique_ptr<WSvgIcon> *icon, const QString &path, const QSize &size)
@@ -212,7 +178,7 @@ void WSvgPushButton::setInnerSvgIconColorSet(const QString &name)
 
 void WSvgPushButton::setSvgIconSize(const QSize &size)
 {
-    if (m_svgIconSize == size || !checkSize("setSvgIconSize", size))
+    if (m_svgIconSize == size || !Checks::size(this, "setSvgIconSize", size))
         return;
     m_svgIconSize = size;
     Q_EMIT svgIconSizeChanged(size);
@@ -220,7 +186,7 @@ void WSvgPushButton::setSvgIconSize(const QSize &size)
 
 void WSvgPushButton::setInnerSvgIconSize(const QSize &size)
 {
-    if (!checkSize("setInnerSvgIconSize", size))
+    if (!Checks::size(this, "setInnerSvgIconSize", size))
         return;
     m_innerSvgIconSize = size;
     if (m_innerIcon)
@@ -250,7 +216,7 @@ void WSvgPushButton::setTextHorAlign(WEnum::HorAlign alignment)
 
 void WSvgPushButton::setTextLeftPadding(int padding)
 {
-    if (!checkPadding("setTextLeftPadding", padding))
+    if (!Checks::padding(this, "setTextLeftPadding", padding))
         return;
     m_textLeftPadding = padding;
     arrangeAgain();
@@ -258,7 +224,7 @@ void WSvgPushButton::setTextLeftPadding(int padding)
 
 void WSvgPushButton::setTextRightPadding(int padding)
 {
-    if (!checkPadding("setTextRightPadding", padding))
+    if (!Checks::padding(this, "setTextRightPadding", padding))
         return;
     m_textRightPadding = padding;
     arrangeAgain();
@@ -266,7 +232,7 @@ void WSvgPushButton::setTextRightPadding(int padding)
 
 void WSvgPushButton::setSvgIconTopLeftPadding(const QPoint &padding)
 {
-    if (!checkPadding("setSvgIconTopLeftPadding", std::min(padding.x(), padding.y())))
+    if (!Checks::padding(this, "setSvgIconTopLeftPadding", padding))
         return;
     m_svgIconTopLeftPadding = padding;
     arrangeAgain();
@@ -274,7 +240,7 @@ void WSvgPushButton::setSvgIconTopLeftPadding(const QPoint &padding)
 
 void WSvgPushButton::setSvgIconBottomRightPadding(const QPoint &padding)
 {
-    if (!checkPadding("setSvgIconBottomRightPadding", std::min(padding.x(), padding.y())))
+    if (!Checks::padding(this, "setSvgIconBottomRightPadding", padding))
         return;
     m_svgIconBottomRightPadding = padding;
     arrangeAgain();
@@ -301,13 +267,7 @@ QSize WSvgPushButton::sizeHint() const
 {
     QSize hint;
     if (QTextDocument *document = richText()) {
-        ensurePolished();
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        QSize size = sizeOf(document);
-        if (menu())
-            size.rwidth() += style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this);
-        hint = style()->sizeFromContents(QStyle::CT_PushButton, &option, size, this);
+        hint = hintFor(sizeOf(document));
     } else {
         hint = WPushButton::sizeHint();
     }
@@ -358,17 +318,14 @@ QTextDocument *WSvgPushButton::richText() const
         return nullptr;
     const bool isNew = !m_document;
     if (isNew) {
-        m_document = new ButtonDocument(const_cast<WSvgPushButton *>(this));
-        m_document->setUndoRedoEnabled(false);
+        m_document = new ControlText::GuardedDocument(const_cast<WSvgPushButton *>(this));
         m_document->setDocumentMargin(0);
     }
     if (m_document->defaultFont() != font())
         m_document->setDefaultFont(font());
     if (isNew || isOther) {
-        if (m_textFormat == Qt::MarkdownText)
-            m_document->setMarkdown(now);
-        else
-            m_document->setHtml(now);
+        m_document->setMarkup(ControlText::beginning(now, true), m_textFormat);
+        m_document->removeOutside();
     }
     return m_document;
 }
@@ -376,7 +333,7 @@ QTextDocument *WSvgPushButton::richText() const
 QString WSvgPushButton::plainText() const
 {
     const QTextDocument *document = richText();
-    return document ? document->toPlainText() : WPushButton::plainText();
+    return document ? m_document->plainText() : WPushButton::plainText();
 }
 
 void WSvgPushButton::onSvgIconColorSetChanged()
@@ -509,7 +466,7 @@ void WSvgPushButton::arrange(Arrangement *now, QTextDocument *document) const
     if (document)
         metrics.textSize = sizeOf(document);
     else if (!text().isEmpty())
-        metrics.textSize = font.size(Qt::TextShowMnemonic, text());
+        metrics.textSize = font.size(Qt::TextShowMnemonic, ControlText::beginning(text()));
     metrics.iconMargins = QMargins(m_svgIconTopLeftPadding.x(), m_svgIconTopLeftPadding.y(),
                                    m_svgIconBottomRightPadding.x(), m_svgIconBottomRightPadding.y());
     metrics.textLeftPadding = m_textLeftPadding + extra.left();
@@ -537,7 +494,7 @@ void WSvgPushButton::arrange(Arrangement *now, QTextDocument *document) const
         layout.text.setWidth(std::max(0, std::min(layout.text.width(), room.button.width() - room.elidePadding)));
 
     now->isCut = !metrics.textSize.isEmpty() && layout.text.width() < metrics.textSize.width();
-    now->isWhole = !now->isCut;
+    now->isWhole = !now->isCut && !ControlText::isLong(text());
     now->textInLeftToRight = layout.text;
     now->icon = layout.icon.isNull() ? QRect() : QStyle::visualRect(room.direction, room.button, layout.icon);
     now->text = layout.text.isNull() ? QRect() : QStyle::visualRect(room.direction, room.button, layout.text);
@@ -559,7 +516,7 @@ void WSvgPushButton::prepareText(Arrangement *now) const
 {
     const Room &room = now->room;
     const QFontMetrics font(room.font);
-    QString shown = text();
+    QString shown = ControlText::beginning(text());
     if (now->isCut && room.elideMode != Qt::ElideNone) {
         QStringList lines = shown.split(QLatin1Char('\n'));
         for (QString &line : lines)
@@ -571,11 +528,7 @@ void WSvgPushButton::prepareText(Arrangement *now) const
         now->markedText = shown;
         return;
     }
-    QString plain;
-    for (int i = 0; i < shown.size(); ++i) {
-        if (shown.at(i) != QLatin1Char('&') || ++i < shown.size())
-            plain += shown.at(i);
-    }
+    const QString plain = ControlText::withoutMnemonics(shown);
     QTextOption option;
     option.setTextDirection(directionOf(plain));
     option.setWrapMode(QTextOption::NoWrap);

@@ -12,6 +12,10 @@
 class QTextDocument;
 class WSvgIcon;
 
+namespace ControlText {
+class GuardedDocument;
+}
+
 /// A push button with an SVG icon beside its text.
 ///
 /// Icon and text are one block within what the style sheet's padding leaves of the button, placed by textHorAlign and
@@ -58,7 +62,7 @@ public:
 
     /// Qt::PlainText at first. Qt::AutoText takes a text for rich text where it looks like it.
     ///
-    /// Rich text reads its images from the resources only.
+    /// Rich text reads its images from Qt resources only; others are replaced by their alternative texts.
     Qt::TextFormat textFormat() const { return m_textFormat; }
     void setTextFormat(Qt::TextFormat format);
 
@@ -140,8 +144,6 @@ protected:
     void colorIcon(const std::unique_ptr<WSvgIcon> &icon, const QString &colorSetName) const;
     /// To be called when the name of a set changed: reports an unknown one.
     void colorsAreOthers(const QString &colorSetName);
-    bool checkSize(const char *function, const QSize &size) const;
-    bool checkPadding(const char *function, int padding) const;
 
     void initStyleOption(QStyleOptionButton *option) const override;
     void paintButton(QStylePainter *painter, const QStyleOptionButton &option) override;
@@ -183,6 +185,6 @@ private:
     // A text can be set without a word to this class, so it is looked at when it is needed.
     mutable QString m_seenText;
     mutable bool m_isRich = false;
-    mutable QPointer<QTextDocument> m_document;
+    mutable QPointer<ControlText::GuardedDocument> m_document;
     mutable std::unique_ptr<Arrangement> m_arrangement;
 };

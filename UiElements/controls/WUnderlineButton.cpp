@@ -1,5 +1,8 @@
 #include <UiElements/controls/WUnderlineButton.h>
 
+#include "Checks_p.h"
+#include "ControlText_p.h"
+
 #include <UiElements/icons/DrawUtils.h>
 #include <UiElements/icons/WSvgIcon.h>
 
@@ -48,7 +51,7 @@ void WUnderlineButton::init()
 
 void WUnderlineButton::setLength(int *length, int value, const char *what)
 {
-    if (value < 0) {
+    if (!Checks::isLength(value)) {
         qWarning().nospace() << "WUnderlineButton::" << what << " - Invalid length: " << value;
         return;
     }
@@ -85,6 +88,8 @@ void WUnderlineButton::setUnreadIndicatorSize(const QSize &size)
         qWarning() << "WUnderlineButton::setUnreadIndicatorSize - Invalid size:" << size;
         return;
     }
+    if (!Checks::size(this, "setUnreadIndicatorSize", size))
+        return;
     m_unreadIndicatorSize = size;
     updateGeometry();
     update();
@@ -170,8 +175,6 @@ const WUnderlineButton::Colors &WUnderlineButton::colors() const
         m_colors->background = colorSet(m_backgroundSet);
         m_colors->underline = m_underlineSet.isEmpty() ? m_colors->text : colorSet(m_underlineSet);
         m_colors->unread = colorSet(QStringLiteral("qx-unreadCountCircle-background"));
-        m_colors->focus =
-            colorSet(focusRectColorSet().isEmpty() ? QStringLiteral("outline-focus") : focusRectColorSet());
         if (m_anchorIcon)
             m_anchorIcon->setColorSet(m_colors->text);
     }
@@ -203,7 +206,7 @@ int WUnderlineButton::trailingRoom() const
 QSize WUnderlineButton::sizeHint() const
 {
     ensurePolished();
-    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, plainText());
+    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, ControlText::beginning(plainText()));
     const int icons =
         std::max(m_leftIcon.isNull() ? 0 : leftIconSize, m_anchorIcon ? m_anchorIcon->getIconSize().height() : 0);
     // The contents are in the middle of the height, so that the room below them is needed above, too.
@@ -218,7 +221,7 @@ QString WUnderlineButton::fitting(const QString &text) const
 {
     const int room = std::max(0, width() - leadingRoom() - trailingRoom());
     const Qt::TextElideMode mode = elideMode() == Qt::ElideNone ? Qt::ElideRight : elideMode();
-    return fontMetrics().elidedText(text, mode, room, Qt::TextShowMnemonic);
+    return fontMetrics().elidedText(ControlText::beginning(text), mode, room, Qt::TextShowMnemonic);
 }
 
 void WUnderlineButton::initStyleOption(QStyleOptionButton *option) const
@@ -245,8 +248,7 @@ void WUnderlineButton::paintButton(QStylePainter *painter, const QStyleOptionBut
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->setPen(Qt::NoPen);
 
-    const bool isChecked = option.state & QStyle::State_On;
-    if (isChecked || (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken))) {
+    if (option.state & (QStyle::State_On | QStyle::State_MouseOver | QStyle::State_Sunken)) {
         const QColor color = DrawUtils::colorForState(sets.background, option.state);
         if (color.isValid()) {
             painter->setBrush(color);
@@ -260,16 +262,7 @@ void WUnderlineButton::paintButton(QStylePainter *painter, const QStyleOptionBut
                          option.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
     }
 
-    if (isChecked && m_borderWidth > 0) {
-        // Its own states are checked and disabled: it does not light up when the button does.
-        const QColor color =
-            DrawUtils::colorForState(sets.underline, option.state & (QStyle::State_Enabled | QStyle::State_On));
-        const int inset = std::min(radius, rect.width() / 4);
-        const double y = rect.top() + rect.height() - m_bottomPadding - m_borderWidth / 2.0;
-        painter->setPen(color.isValid() ? QPen(color, m_borderWidth, Qt::SolidLine, Qt::FlatCap) : QPen(Qt::NoPen));
-        painter->drawLine(QLineF(rect.left() + inset, y, rect.left() + rect.width() - inset, y));
-    }
-
+    paintUnderline(painter, option);
     if (m_anchorIcon) {
         const QSize size = m_anchorIcon->getIconSize();
         painter->save();
@@ -279,16 +272,7 @@ void WUnderlineButton::paintButton(QStylePainter *painter, const QStyleOptionBut
         painter->restore();
     }
 
-    if (!option.text.isEmpty()) {
-        const QColor color = DrawUtils::colorForState(sets.text, option.state);
-        painter->setPen(color.isValid() ? color : option.palette.color(QPalette::ButtonText));
-        const int shownMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this)
-            ? int(Qt::TextShowMnemonic)
-            : int(Qt::TextHideMnemonic);
-        painter->drawText(placed(rect.adjusted(leadingRoom(), 0, -trailingRoom(), 0)),
-                          Qt::AlignCenter | Qt::TextSingleLine | shownMnemonic, option.text);
-    }
-
+    paintText(painter, option);
     if (m_showUnreadIndicator) {
         const QColor color = DrawUtils::colorForState(sets.unread, option.state & QStyle::State_Enabled);
         if (color.isValid()) {
@@ -299,10 +283,40 @@ void WUnderlineButton::paintButton(QStylePainter *painter, const QStyleOptionBut
     }
 }
 
+void WUnderlineButton::paintUnderline(QPainter *painter, const QStyleOptionButton &option)
+{
+    if (!(option.state & QStyle::State_On) || m_borderWidth <= 0)
+        return;
+    // Its own states are checked and disabled: it does not light up when the button does.
+    const QColor color =
+        DrawUtils::colorForState(colors().underline, option.state & (QStyle::State_Enabled | QStyle::State_On));
+    const QRect &rect = option.rect;
+    const int inset = std::min(radius, rect.width() / 4);
+    const double y = rect.top() + rect.height() - m_bottomPadding - m_borderWidth / 2.0;
+    painter->setPen(color.isValid() ? QPen(color, m_borderWidth, Qt::SolidLine, Qt::FlatCap) : QPen(Qt::NoPen));
+    painter->drawLine(QLineF(rect.left() + inset, y, rect.left() + rect.width() - inset, y));
+}
+
+void WUnderlineButton::paintText(QPainter *painter, const QStyleOptionButton &option)
+{
+    if (option.text.isEmpty())
+        return;
+    const QColor color = DrawUtils::colorForState(colors().text, option.state);
+    painter->setPen(color.isValid() ? color : option.palette.color(QPalette::ButtonText));
+    const QRect room = option.rect.adjusted(leadingRoom(), 0, -trailingRoom(), 0);
+    const int shownMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this)
+        ? int(Qt::TextShowMnemonic)
+        : int(Qt::TextHideMnemonic);
+    painter->drawText(QStyle::visualRect(option.direction, option.rect, room),
+                      Qt::AlignCenter | Qt::TextSingleLine | shownMnemonic, option.text);
+}
+
 void WUnderlineButton::paintFocus(QStylePainter *painter, const QStyleOptionButton &option)
 {
     const QVariant asked = property("focusBorderRadius");
     const QRect custom = property("customFocusRect").toRect();
-    DrawUtils::drawFocusRect(painter, custom.isValid() ? custom : option.rect, colors().focus.focused(),
+    const QColor color = focusColor();
+    DrawUtils::drawFocusRect(painter, custom.isValid() ? custom : option.rect,
+                             color.isValid() ? color : option.palette.color(QPalette::Highlight),
                              asked.isValid() ? asked.toDouble() : radius);
 }

@@ -74,7 +74,6 @@ private:
         WColorSet background;
         WColorSet underline;
         WColorSet unread;
-        WColorSet focus;
     };
 
     void init();
@@ -84,6 +83,8 @@ private:
     int leadingRoom() const;
     int trailingRoom() const;
     QString fitting(const QString &text) const;
+    void paintUnderline(QPainter *painter, const QStyleOptionButton &option);
+    void paintText(QPainter *painter, const QStyleOptionButton &option);
 
     QString m_textSet;
     QString m_backgroundSet;
