@@ -81,6 +81,7 @@ public:
                 layout->addWidget(page);
             auto *pageLayout = new QVBoxLayout(page);
             pageLayout->setContentsMargins(0, 0, 0, 0);
+            m_filled = 0;
             addFrame(page, pageLayout, 0);
         }
         // A page is polished when it is shown for the first time.

@@ -31,6 +31,7 @@ struct Scopes
 {
     int open = 0;
     std::vector<QPointer<QWidget>> left;
+    bool hasHidden = false;
     RestyleReport counts;
     RestyleReport last;
 };
@@ -38,6 +39,35 @@ Scopes &scopes()
 {
     static Scopes all;
     return all;
+}
+
+void polishLeft()
+{
+    // More may come while these are polished.
+    std::vector<QPointer<QWidget>> &left = scopes().left;
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        const QPointer<QWidget> widget = left[i];
+        if (ThemeSupport *support = widget ? ThemeSupport::of(widget) : nullptr)
+            support->polishIfNeeded();
+    }
+    left.clear();
+}
+
+// The sheets of a hidden window hold for its dialogs, too.
+void polishAboveShownWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const std::vector<QPointer<QWidget>> guarded(windows.begin(), windows.end());
+    for (const QPointer<QWidget> &window : guarded) {
+        if (window && window->parentWidget() && window->isVisible())
+            ThemeSupport::showNewColors(window);
+    }
+}
+
+std::vector<StyledBelow *> &openLists()
+{
+    static std::vector<StyledBelow *> open;
+    return open;
 }
 
 } // namespace
@@ -100,13 +130,12 @@ RestyleScope::~RestyleScope()
         --all.open;
         return;
     }
-    // More may come while these are polished.
-    for (std::size_t i = 0; i < all.left.size(); ++i) {
-        const QPointer<QWidget> widget = all.left[i];
-        if (ThemeSupport *support = widget ? ThemeSupport::of(widget) : nullptr)
-            support->polishIfNeeded();
+    polishLeft();
+    if (std::exchange(all.hasHidden, false)) {
+        polishAboveShownWindows();
+        polishLeft();
+        all.hasHidden = false;
     }
-    all.left.clear();
     all.open = 0;
     all.counts.microseconds = m_time.nsecsElapsed() / 1000;
     const RestyleReport report = std::exchange(all.counts, {});
@@ -117,6 +146,11 @@ RestyleScope::~RestyleScope()
 bool RestyleScope::isOpen()
 {
     return scopes().open > 0;
+}
+
+void RestyleScope::noteHidden()
+{
+    scopes().hasHidden = true;
 }
 
 void RestyleScope::add(QWidget *widget)
@@ -132,16 +166,47 @@ void RestyleScope::count(int RestyleReport::*number)
 
 StyledBelow::StyledBelow(QWidget *widget)
 {
+    openLists().push_back(this);
     takeFrom(widget);
 }
 
 StyledBelow::~StyledBelow()
 {
-    for (const Children &children : m_lists) {
-        if (!children.parent)
+    for (Children &children : m_lists)
+        putBack(&children);
+    openLists().pop_back();
+}
+
+void StyledBelow::putBack(Children *children)
+{
+    if (!children->parent)
+        return;
+    const_cast<QObjectList &>(children->parent->children()) = merged(*children);
+    std::fill(m_widgets.begin() + std::ptrdiff_t(children->firstTaken),
+              m_widgets.begin() + std::ptrdiff_t(children->endTaken), nullptr);
+    if (children->connection)
+        QObject::disconnect(children->connection);
+    children->parent = nullptr;
+}
+
+void StyledBelow::putBack(QWidget *widget)
+{
+    for (StyledBelow *open : openLists()) {
+        const auto taken = std::find(open->m_widgets.begin(), open->m_widgets.end(), widget);
+        if (taken == open->m_widgets.end())
             continue;
-        auto &now = const_cast<QObjectList &>(children.parent->children());
-        now = merged(children);
+        *taken = nullptr;
+        const_cast<QObjectList &>(widget->parent()->children()).append(widget);
+    }
+}
+
+void StyledBelow::putBackBelow(QWidget *parent)
+{
+    for (StyledBelow *open : openLists()) {
+        for (Children &children : open->m_lists) {
+            if (children.parent == parent)
+                open->putBack(&children);
+        }
     }
 }
 
@@ -164,7 +229,10 @@ void StyledBelow::takeFrom(QWidget *parent)
     }
     if (first == end)
         return;
-    m_lists.push_back({parent, all, kept, first, end});
+    QMetaObject::Connection connection;
+    if (!ThemeSupport::of(parent))
+        connection = QObject::connect(parent, &QObject::destroyed, parent, [parent] { putBackBelow(parent); });
+    m_lists.push_back({parent, all, kept, first, end, connection});
     const_cast<QObjectList &>(parent->children()) = kept;
 }
 

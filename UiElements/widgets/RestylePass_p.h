@@ -51,6 +51,8 @@ public:
     RestyleScope &operator=(const RestyleScope &) = delete;
 
     static bool isOpen();
+    /// Something hidden was left as it is, and a window that belongs to it may be shown all the same.
+    static void noteHidden();
     /// To be polished before the outermost scope closes.
     static void add(QWidget *widget);
     /// One more of these in the report of the outermost scope.
@@ -76,16 +78,23 @@ public:
 
     const std::vector<QPointer<QWidget>> &widgets() const { return m_widgets; }
 
+    /// Before a widget leaves its parent it has to be there: else nobody tells the parent's layout.
+    static void putBack(QWidget *widget);
+    /// Before a widget is destroyed its children have to be there, or they would be left over.
+    static void putBackBelow(QWidget *parent);
+
 private:
     struct Children
     {
-        QPointer<QWidget> parent;
+        QWidget *parent; ///< null once they are back
         QObjectList all;
         QObjectList kept;
         std::size_t firstTaken;
         std::size_t endTaken;
+        QMetaObject::Connection connection;
     };
     void takeFrom(QWidget *parent);
+    void putBack(Children *children);
     QObjectList merged(const Children &children) const;
 
     std::vector<Children> m_lists;

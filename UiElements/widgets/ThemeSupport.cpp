@@ -109,7 +109,7 @@ public:
     bool isUpToDate(const StyleTemplate *from, quint64 content) const;
     void give(const QString &text, bool isOnlyColors);
     void giveColors();
-    void showNewColors();
+    void noticeForeignSheet();
     void setSheetOfThisOnly(const QString &sheet);
     bool canBeShort() const;
     bool isInNormalState() const;
@@ -119,6 +119,7 @@ public:
     QWidget *const widget;
     const Hooks *const hooks;
     bool attached = false;
+    const QMetaObject *ownClass = nullptr; // the one that called attach()
 
     QString css;
     std::shared_ptr<const StyleTemplate> source; // of css, once it was expanded
@@ -128,6 +129,7 @@ public:
     QString text;
     QString shortText; // what Qt's style engine is told instead, if anything
     bool isWaiting = false; // to be given to Qt
+    QString replaced; // by what waits
     bool isAncestorNewer = false; // than what the widget was polished with
     bool isPolished = false; // was shown, or measured
     bool isGettingColors = false;
@@ -163,6 +165,8 @@ ThemeSupport::ThemeSupport(QWidget *widget, const Hooks *hooks)
 
 ThemeSupport::~ThemeSupport()
 {
+    StyledBelow::putBackBelow(d->widget);
+    StyledBelow::putBack(d->widget);
     supports().remove(d->widget);
     RestylePass::forget(this);
     QObject::disconnect(d->nameConnection);
@@ -186,6 +190,7 @@ static bool hasEarlyInterface(const QWidget *widget)
 void ThemeSupport::attach()
 {
     d->attached = true;
+    d->ownClass = d->widget->metaObject();
     RestylePass::ensure();
     ThemedAccessible::install();
     if (hasEarlyInterface(d->widget))
@@ -247,15 +252,7 @@ bool ThemeSupport::follow(QEvent *event)
     switch (event->type()) {
     case QEvent::Polish: d->isPolished = true; break;
     case QEvent::StyleChange: return d->isGettingColors;
-    case QEvent::Paint:
-        // Of a picture that is taken of a hidden widget.
-        if (!d->shortText.isEmpty() && !d->isInNormalState()) {
-            d->shortText.clear();
-            d->isAncestorNewer = true;
-        }
-        if (d->isWaiting || d->isAncestorNewer)
-            d->giveColors();
-        break;
+    case QEvent::Paint: preparePainting(); break;
     case QEvent::ChildAdded:
         // Rules for a class hold for what is inside, too, and that has states of its own.
         if (!d->shortText.isEmpty()) {
@@ -263,6 +260,7 @@ bool ThemeSupport::follow(QEvent *event)
             d->giveColors();
         }
         break;
+    case QEvent::ParentAboutToChange: StyledBelow::putBack(d->widget); break;
     case QEvent::ParentChange:
         if (!d->attached)
             break;
@@ -275,12 +273,23 @@ bool ThemeSupport::follow(QEvent *event)
         // A plain ancestor may have moved to another window, of which nothing below it is told.
         if (d->attached)
             d->noticeThemeType();
-        if (d->isWaiting || d->isAncestorNewer)
-            d->showNewColors();
+        if (d->isWaiting || d->isAncestorNewer || d->widget->isWindow())
+            showNewColors(d->widget);
         break;
     default: break;
     }
     return false;
+}
+
+void ThemeSupport::preparePainting()
+{
+    if (!d->shortText.isEmpty() && !d->isInNormalState()) {
+        d->shortText.clear();
+        d->isAncestorNewer = true;
+    }
+    // A picture may be taken of a hidden widget.
+    if (d->isWaiting || d->isAncestorNewer || !d->widget->isVisible())
+        showNewColors(d->widget);
 }
 
 void ThemeSupport::setDrawsOwnBox()
@@ -308,6 +317,7 @@ void ThemeSupport::refresh()
 {
     if (!d->source)
         return;
+    d->noticeForeignSheet();
     d->shownType = d->effectiveType();
     // Held: whoever receives the messages may replace the application's color sets.
     const std::shared_ptr<const ColorTable> table = WThemeUtilsPrivate::colorTable(d->shownType);
@@ -350,6 +360,8 @@ void ThemeSupport::Private::expandInTwoPasses(const ColorTable &table)
     shortText.clear();
     if (text != expandedText || widget->styleSheet() != expandedText || isAncestorNewer)
         give(expandedText, false);
+    else
+        RestyleScope::count(&RestyleReport::unchanged);
     hooks->cssChanged(widget);
 }
 
@@ -365,13 +377,18 @@ void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
     widget->setAttribute(Qt::WA_StyledBackground);
     if (isOnlyColors) {
         isWaiting = true;
-        if (RestyleScope::isOpen() && hasToWait())
+        replaced = widget->styleSheet();
+        if (RestyleScope::isOpen() && hasToWait()) {
             RestyleScope::count(&RestyleReport::deferred);
-        else
+            RestyleScope::noteHidden();
+        } else {
             giveColors();
+        }
     } else if (!isPolished && widget->styleSheet().isEmpty()) {
+        RestyleScope::count(&RestyleReport::restyled);
         setSheetOfThisOnly(text);
     } else if (widget->styleSheet() != text || isAncestorNewer) {
+        RestyleScope::count(&RestyleReport::restyled);
         isWaiting = isAncestorNewer = false;
         const EngineReads reading;
         widget->setStyleSheet(text);
@@ -383,21 +400,30 @@ void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
 void ThemeSupport::Private::giveColors()
 {
     RestyleScope::count(&RestyleReport::restyled);
+    noticeForeignSheet();
     isGettingColors = true;
     setSheetOfThisOnly(isWaiting ? text : widget->styleSheet());
     isGettingColors = false;
     widget->update();
 }
 
+// A sheet that was set past this class after the colors changed stays until the next expansion.
+void ThemeSupport::Private::noticeForeignSheet()
+{
+    if (isWaiting && widget->styleSheet() != replaced)
+        isWaiting = false;
+}
+
 // Qt reads and sorts the rules of each widget anew whenever their colors change, and that is most of the time a switch
 // of the theme takes. The rules for states in which a widget is not are left out where it is certain that they are not
-// missed: nothing inside, and a class whose states are known. They come in before it is painted in another state.
+// missed: nothing inside, and a class whose states are known, which those of a class derived from it are not. They come
+// in before it is painted in another state.
 bool ThemeSupport::Private::canBeShort() const
 {
     const QObjectList &children = widget->children();
     const bool isLeaf =
         std::none_of(children.begin(), children.end(), [](const QObject *child) { return child->isWidgetType(); });
-    return isLeaf && isPolished && isInNormalState()
+    return isLeaf && isPolished && isInNormalState() && widget->metaObject() == ownClass
         && (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QLabel *>(widget)
             || widget->inherits("WFrame") || widget->inherits("WWidget"));
 }
@@ -412,6 +438,7 @@ bool ThemeSupport::Private::isInNormalState() const
 void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
 {
     isWaiting = isAncestorNewer = false;
+    replaced.clear();
     const RestyleScope scope;
     const StyledBelow below(widget);
     for (const QPointer<QWidget> &child : below.widgets()) {
@@ -427,26 +454,32 @@ void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
 
 void ThemeSupport::polishIfNeeded()
 {
-    if (d->isAncestorNewer && !d->hasToWait())
+    if (d->isAncestorNewer && d->hasToWait())
+        RestyleScope::noteHidden();
+    else if (d->isAncestorNewer)
         d->giveColors();
 }
 
-// The widgets of a page are told from the innermost out, and styled from the outermost in.
-void ThemeSupport::Private::showNewColors()
+// The widgets of a page are told from the innermost out, and styled from the outermost in. What one is inside of may
+// be hidden even so: the window of a dialog, or all of it while a picture is taken.
+void ThemeSupport::showNewColors(QWidget *widget)
 {
     const RestyleScope scope;
-    std::vector<Private *> chain;
+    std::vector<QPointer<QWidget>> chain;
     for (QWidget *w = widget; w; w = w->parentWidget()) {
-        ThemeSupport *other = ThemeSupport::of(w);
-        if (other && (other->d->isWaiting || other->d->isAncestorNewer) && w->isVisible())
-            chain.push_back(other->d.get());
+        if (ThemeSupport::of(w))
+            chain.emplace_back(w);
     }
-    for (auto it = chain.rbegin(); it != chain.rend(); ++it)
-        (*it)->giveColors();
+    for (auto it = chain.rbegin(); it != chain.rend(); ++it) {
+        ThemeSupport *other = *it ? ThemeSupport::of(*it) : nullptr;
+        if (other && (other->d->isWaiting || other->d->isAncestorNewer))
+            other->d->giveColors();
+    }
 }
 
 QString ThemeSupport::styleSheet() const
 {
+    d->noticeForeignSheet();
     if (d->isWaiting)
         d->giveColors();
     return d->widget->styleSheet();

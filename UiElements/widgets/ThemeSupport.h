@@ -53,6 +53,10 @@ public:
     void refresh();
     /// The expanded text. That of a hidden widget is given to Qt when it is shown, or when it is asked for here.
     QString styleSheet() const;
+    /// Gives what waits in the widget and in all that it is inside of.
+    static void showNewColors(QWidget *widget);
+    /// To be called before anything of the widget is painted, its background, too.
+    void preparePainting();
     /// Polishes the widget if the sheet of an ancestor changed and it was not polished since. If it is hidden, that
     /// waits until it is shown.
     void polishIfNeeded();

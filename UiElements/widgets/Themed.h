@@ -82,6 +82,13 @@ protected:
     ThemeSupport &theme() { return m_theme; }
     QString styleSheetProperty() const { return m_theme.styleSheetProperty(); }
 
+    // Qt paints a styled background before it sends the event.
+    void initPainter(QPainter *painter) const override
+    {
+        const_cast<ThemeSupport &>(m_theme).preparePainting();
+        Base::initPainter(painter);
+    }
+
     bool event(QEvent *event) override
     {
         if (m_theme.follow(event))
