@@ -82,8 +82,8 @@ QString timeText(const QDateTime &time, const QDateTime &now)
 {
     const QLocale locale;
     const qint64 days = time.date().daysTo(now.date());
-    if (days <= 0) // some locales, such as that of C, count seconds even here
-        return locale.toString(time.time(), locale.timeFormat(QLocale::ShortFormat).remove(QLatin1String(":ss")));
+    if (days <= 0)
+        return ConversationModel::clockText(time.time());
     if (days == 1)
         return ConversationModel::tr("Yesterday");
     return days < 7 ? locale.standaloneDayName(time.date().dayOfWeek(), QLocale::ShortFormat)
@@ -129,6 +129,24 @@ void ConversationModel::receive(int messages, const QDateTime &now)
         any()[PresenceRole] = m_random.bounded(int(Active), Offline + 1);
     }
     show(std::move(rows));
+}
+
+void ConversationModel::setMessage(const QModelIndex &index, const QString &text, const QDateTime &now)
+{
+    m_now = now;
+    Rows rows = getRows();
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return;
+    auto &values = rows[std::size_t(index.row())].second;
+    values[MessageRole] = text;
+    values[TimeRole] = now.toMSecsSinceEpoch();
+    show(std::move(rows));
+}
+
+void ConversationModel::markRead(const QModelIndex &index)
+{
+    if (index.data(UnreadRole).toInt() > 0)
+        setData(index, 0, UnreadRole);
 }
 
 int ConversationModel::addConversation(const QDateTime &now)
@@ -221,6 +239,13 @@ QString ConversationModel::presenceName(int presence)
     case Offline: return tr("offline");
     default: return QString();
     }
+}
+
+QString ConversationModel::clockText(const QTime &time)
+{
+    // Some locales, such as that of C, count seconds even here.
+    const QLocale locale;
+    return locale.toString(time, locale.timeFormat(QLocale::ShortFormat).remove(QLatin1String(":ss")));
 }
 
 QString ConversationModel::accessibleText(const QModelIndex &index) const

@@ -31,6 +31,9 @@ public:
 
     /// So many conversations get a message, and as many people come or go.
     void receive(int messages, const QDateTime &now);
+    /// The last message of one of them, which comes to the top.
+    void setMessage(const QModelIndex &index, const QString &text, const QDateTime &now);
+    void markRead(const QModelIndex &index);
     /// Adds a conversation; when the model is full, the oldest goes. Returns the row.
     int addConversation(const QDateTime &now);
     void removeConversations(const QModelIndexList &indexes);
@@ -40,6 +43,8 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
     static QString presenceName(int presence);
+    /// The time of the day, as short as the locale writes it.
+    static QString clockText(const QTime &time);
 
 private:
     Row inventRow(qint64 time);

@@ -1,5 +1,7 @@
 #include "GalleryStyles.h"
 
+#include <QSize>
+
 #include <initializer_list>
 
 namespace {
@@ -218,9 +220,45 @@ QString GalleryStyles::bubble(bool own, Qt::LayoutDirection direction)
     const QString colors = own ? QStringLiteral("$backgroundColors: button-primary-background; ")
                                : QStringLiteral("$backgroundColors: background-secondary; "
                                                 "$borderColors: outline-secondary; $borders: all; ");
+    // It is for reading: the mouse changes nothing.
+    const QString rest = own ? QStringLiteral("\n#own_bubble:hover { background-color: "
+                                              "$(button-primary-background.normal); }")
+                             : QStringLiteral("\n#bubble:hover { background-color: $(background-secondary.normal); "
+                                              "border-color: $(outline-secondary.normal); }");
     return colors
         + (speakerAtRight ? QStringLiteral("$borderRadius: 12 top, bottom-left;")
-                          : QStringLiteral("$borderRadius: 12 top, bottom-right;"));
+                          : QStringLiteral("$borderRadius: 12 top, bottom-right;"))
+        + rest;
+}
+
+QString GalleryStyles::section(const QString &line)
+{
+    return QStringLiteral("$borders: %1; $borderColors: outline-secondary; background: transparent;\n"
+                          "#section:hover { border-color: $(outline-secondary.normal); }")
+        .arg(line);
+}
+
+QString GalleryStyles::rail(Qt::LayoutDirection direction)
+{
+    return QStringLiteral("$backgroundColors: navigation-background; $borders: none; $borderRadius: 11 %1;\n"
+                          "#rail:hover { background-color: $(navigation-background.normal); }")
+        .arg(direction == Qt::LeftToRight ? QStringLiteral("top-left, bottom-left")
+                                           : QStringLiteral("top-right, bottom-right"));
+}
+
+QString GalleryStyles::callBar()
+{
+    return QStringLiteral("$backgroundColors: background-secondary; $borderColors: outline-secondary; $borders: all; "
+                          "$borderRadius: 8;\n"
+                          "#call:hover { background-color: $(background-secondary.normal); "
+                          "border-color: $(outline-secondary.normal); }");
+}
+
+QString GalleryStyles::avatar(int side)
+{
+    return QStringLiteral("$backgroundColors: background-secondary; $textColors: text-secondary; "
+                          "$borderColors: outline-secondary; $borders: all; $borderRadius: %1;")
+        .arg(side / 2);
 }
 
 QString GalleryStyles::widget()
@@ -288,6 +326,21 @@ QHeaderView::section { padding: 6px 8px; border: none; border-bottom: 1px solid 
         + partRules(QStringLiteral("QHeaderView::section"),
                     {"background-color: header-background", "color: header-text"}, MouseStates)
         + scrollBars();
+}
+
+QString GalleryStyles::spaceList()
+{
+    return itemView()
+        + QStringLiteral("QAbstractItemView { border: none; padding: 0; background: transparent; }\n"
+                         "QAbstractItemView:focus { border: none; padding: 0; }\n"
+                         "QAbstractItemView::item:focus { border: 2px solid $(outline-focus.normal); }");
+}
+
+QString GalleryStyles::messages()
+{
+    return QStringLiteral("#messages { background: transparent; border: 2px solid transparent; border-radius: 6px; }\n"
+                          "#messages:focus { border-color: $(outline-focus.normal); }\n"
+                          "#messages_content { background: transparent; }");
 }
 
 QString GalleryStyles::textField()
@@ -398,6 +451,44 @@ QMenu::item:selected { background-color: $(menu-item-background.hovered); color:
 QMenu::item:disabled { background-color: $(menu-item-background.disabled); color: $(menu-item-text.disabled); }
 QMenu::separator { height: 1px; margin: 5px 8px; background-color: $(menu-separator.normal); }
 )");
+}
+
+namespace {
+
+// With the focus the border is wider, and the contents stay where they are.
+QString buttonStyle(const QString &kind, const QSize &padding)
+{
+    return QStringLiteral("$backgroundColors: button-%1-background; $borderColors: button-%1-border; "
+                          "$textColors: button-%1-text; $borders: all; $borderRadius: 6 focus; padding: %2px %3px;\n"
+                          "QPushButton:focus { border-width: 2px; padding: %4px %5px; }")
+        .arg(kind)
+        .arg(padding.height())
+        .arg(padding.width())
+        .arg(padding.height() - 1)
+        .arg(padding.width() - 1);
+}
+
+} // namespace
+
+QString GalleryStyles::pushButton(const QString &kind)
+{
+    return buttonStyle(kind, QSize(15, 5));
+}
+
+QString GalleryStyles::svgButton(const QString &kind)
+{
+    return buttonStyle(kind, QSize(11, 1));
+}
+
+QString GalleryStyles::iconButton(const QString &kind)
+{
+    return buttonStyle(kind, QSize(7, 7));
+}
+
+QString GalleryStyles::railButton()
+{
+    return QStringLiteral("$backgroundColors: navigation-item-background; $textColors: navigation-item-text; "
+                          "$borders: none; $borderRadius: 8 focus; padding: 6px 2px;");
 }
 
 QString GalleryStyles::iconBars()

@@ -1,5 +1,7 @@
 #include "LayoutCheck.h"
 
+#include <UiElements/controls/WPushButton.h>
+
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QComboBox>
@@ -55,6 +57,14 @@ TextRoom roomOf(const QPushButton *button)
     return {button->text(), button->fontMetrics().size(Qt::TextShowMnemonic, button->text()), given.size()};
 }
 
+// These know themselves what icons, paddings and text need. One that elides does so by intention.
+TextRoom roomOf(const WPushButton *button)
+{
+    if (button->elideMode() != Qt::ElideNone)
+        return {};
+    return {button->plainText(), button->sizeHint(), button->size()};
+}
+
 TextRoom roomOf(const QRadioButton *button)
 {
     QStyleOptionButton option;
@@ -79,6 +89,8 @@ TextRoom roomOf(const QWidget *widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return roomOf(label);
+    if (const auto *button = qobject_cast<const WPushButton *>(widget))
+        return roomOf(button);
     if (const auto *button = qobject_cast<const QPushButton *>(widget))
         return roomOf(button);
     if (const auto *button = qobject_cast<const QRadioButton *>(widget))

@@ -4,6 +4,7 @@
 #include "LayoutCheck.h"
 #include "Page.h"
 #include "PageRegistry.h"
+#include "QmlSurface.h"
 
 #include <QAnimationDriver>
 #include <QApplication>
@@ -81,8 +82,10 @@ void visitAll(GalleryThemes *themes, const PictureOptions &options, const Visit 
                 continue;
             window.showPage(entry.name);
             settle();
+            QmlSurface::showFrames(&window); // what QML lays out is as high as it needs to be then
             window.fitToPage();
             settle();
+            QmlSurface::showFrames(&window);
             visit(&window, Shot {entry.name, theme, direction, inverted});
         }
     };

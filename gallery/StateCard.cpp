@@ -5,6 +5,8 @@
 #include "LastingFocus.h"
 #include "Page.h"
 
+#include <UiElements/controls/WPillTabButton.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -13,6 +15,7 @@
 #include <QGridLayout>
 #include <QHoverEvent>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QSplitter>
 #include <QStyleOptionSlider>
 #include <QStyleOptionSpinBox>
@@ -88,6 +91,10 @@ void hover(QWidget *widget)
     widget->setAttribute(Qt::WA_UnderMouse);
     receiver->setAttribute(Qt::WA_UnderMouse);
     QHoverEvent enter(QEvent::HoverEnter, place, QPoint(-1, -1));
+    // A push button is hovered once the mouse has moved on it.
+    QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    if (qobject_cast<QPushButton *>(widget))
+        deliver(receiver, &move);
     // Item views follow the mouse in the events of their viewport.
     if (receiver != widget && qobject_cast<QAbstractItemView *>(widget))
         QCoreApplication::sendEvent(receiver, &enter);
@@ -211,19 +218,27 @@ StateCard::StateCard(const QString &title, const QString &description, const Mak
     m_grid->setHorizontalSpacing(16);
     m_grid->setVerticalSpacing(8);
     column->addLayout(m_grid);
-    for (int state = 0; state < WColorSet::StateCount; ++state)
-        addSpecimen(WColorSet::State(state), title, make);
+    addVariant(title, make);
 }
 
-void StateCard::addSpecimen(WColorSet::State state, const QString &title, const Make &make)
+void StateCard::addVariant(const QString &title, const Make &make)
+{
+    ++m_rows;
+    for (int state = 0; state < WColorSet::StateCount; ++state)
+        addSpecimen(m_rows, WColorSet::State(state), title, make);
+}
+
+void StateCard::addSpecimen(int row, WColorSet::State state, const QString &title, const Make &make)
 {
     QWidget *widget = make();
     widget->setAccessibleName(title + QLatin1String(", ") + WColorSet::stateNames().at(state));
     const bool can = m_force || canBe(widget, state);
     if (state != WColorSet::Normal)
         keepMouseAndKeysAway(widget);
-    const bool fixed = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-    m_grid->addWidget(widget, 1, state, fixed ? Qt::AlignLeading | Qt::AlignTop : Qt::Alignment());
+    // A column of nothing but elements with a limit would have that limit, and not its share of the card.
+    const bool fixed = widget->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed
+        || widget->maximumWidth() < QWIDGETSIZE_MAX || qobject_cast<WPillTabButton *>(widget);
+    m_grid->addWidget(widget, row, state, fixed ? Qt::AlignLeading | Qt::AlignTop : Qt::Alignment());
     m_grid->setColumnStretch(state, 1);
     m_grid->setColumnMinimumWidth(state, 112);
 
@@ -236,7 +251,8 @@ void StateCard::addSpecimen(WColorSet::State state, const QString &title, const 
         bringAbout(widget, state);
     else if (state != WColorSet::Normal)
         widget->installEventFilter(this);
-    m_grid->addWidget(new Label(caption, WFont::BodyTertiary, Label::Secondary), 0, state);
+    if (row == 1)
+        m_grid->addWidget(new Label(caption, WFont::BodyTertiary, Label::Secondary), 0, state);
 }
 
 void StateCard::bringAbout(QWidget *widget, WColorSet::State state) const

@@ -24,6 +24,8 @@ public:
     StateCard(const QString &title, const QString &description, const Make &make, const Force &force = {},
               QWidget *parent = nullptr);
 
+    /// A further row, of an element that is set up otherwise.
+    void addVariant(const QString &title, const Make &make);
     /// For elements which a click would make vanish: the first specimen does not answer to the mouse either.
     void setInert();
 
@@ -31,9 +33,10 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addSpecimen(WColorSet::State state, const QString &title, const Make &make);
+    void addSpecimen(int row, WColorSet::State state, const QString &title, const Make &make);
     void bringAbout(QWidget *widget, WColorSet::State state) const;
 
     const Force m_force;
     QGridLayout *m_grid;
+    int m_rows = 0;
 };

@@ -24,6 +24,18 @@ void useNoDisplayIfThereIsNone(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+// Without a display there is no OpenGL that QML could be drawn with.
+void drawQmlWithoutDisplay(int argc, char **argv)
+{
+    QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (std::strcmp(argv[i], "-platform") == 0)
+            platform = argv[i + 1];
+    }
+    if (platform.startsWith("offscreen") && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+}
+
 QStringList namesOf(const GalleryThemes &themes)
 {
     QStringList names;
@@ -57,6 +69,7 @@ bool allKnown(const QStringList &given, const QStringList &known, const char *wh
 int main(int argc, char **argv)
 {
     useNoDisplayIfThereIsNone(argc, argv);
+    drawQmlWithoutDisplay(argc, argv);
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     WApplication app(argc, argv);

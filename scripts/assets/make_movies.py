@@ -3,32 +3,37 @@
 usage: make_movies.py REPOSITORY
 
 They are our own work, each frame computed here, so the outcome is the same wherever this runs. It takes nothing but
-Python: edges are smoothed by drawing at four times the size, and the files are written by the encoder below.
+Python: edges are smoothed by drawing larger, and the files are written by the encoder below.
+
+The background is transparent, so the images look right in every theme. GIF knows no half transparent pixel: the images
+are drawn at twice the size at which they are shown, and become smooth when they are scaled down.
 """
 import math
 import sys
 from pathlib import Path
 
-OVERSAMPLING = 4
-PAPER = (255, 255, 255)
+OVERSAMPLING = 3
+SIDE = 96  # at which the images are shown, and the unit of all that is drawn
+SCALE = 2  # pixels of the file for each of these units
 
 
 class Canvas:
-    """Squares of color on a plane, drawn large and reduced at the end."""
+    """Squares of color on a transparent plane, drawn large and reduced at the end."""
 
-    def __init__(self, side, background):
-        self.side = side
-        self.large = side * OVERSAMPLING
-        self.pixels = [[background] * self.large for _ in range(self.large)]
+    def __init__(self):
+        self.side = SIDE * SCALE
+        self.large = self.side * OVERSAMPLING
+        self.pixels = [[None] * self.large for _ in range(self.large)]
 
     def fill(self, inside, color, box):
-        """Colors what is inside, which is asked for positions in the final pixels within the box."""
-        left, top, right, bottom = (max(0, int(value * OVERSAMPLING)) for value in box)
-        for y in range(top, min(self.large, bottom + 1)):
+        """Colors what is inside, which is asked for positions within the box."""
+        fine = SCALE * OVERSAMPLING
+        left, top, right, bottom = (max(0, int(value * fine)) for value in box)
+        for y in range(top, min(self.large - 1, bottom) + 1):
             row = self.pixels[y]
-            at_y = (y + 0.5) / OVERSAMPLING
-            for x in range(left, min(self.large, right + 1)):
-                if inside((x + 0.5) / OVERSAMPLING, at_y):
+            at_y = (y + 0.5) / fine
+            for x in range(left, min(self.large - 1, right) + 1):
+                if inside((x + 0.5) / fine, at_y):
                     row[x] = color
 
     def disc(self, x, y, radius, color):
@@ -38,34 +43,51 @@ class Canvas:
         self.fill(lambda px, py: ((px - x) / width) ** 2 + ((py - y) / height) ** 2 <= 1, color,
                   (x - width, y - height, x + width, y + height))
 
+    def shadow(self, x, y, width, height, color):
+        """A quarter of the pixels, which is a quarter of the color when the image is scaled down.
+
+        They stand in no order: one would show as stripes at other scales than a half.
+        """
+        self.fill(lambda px, py: ((px - x) / width) ** 2 + ((py - y) / height) ** 2 <= 1
+                  and (int(px * SCALE) * 7919 + int(py * SCALE) * 104729) % 61 % 4 == 0, color,
+                  (x - width, y - height, x + width, y + height))
+
     def reduced(self):
+        """Rows of colors; None is transparent. A pixel is there if half of it is."""
         rows = []
         for y in range(self.side):
             row = []
             for x in range(self.side):
-                block = [self.pixels[y * OVERSAMPLING + dy][x * OVERSAMPLING + dx]
-                         for dy in range(OVERSAMPLING) for dx in range(OVERSAMPLING)]
-                row.append(tuple(round(sum(color[i] for color in block) / len(block) / 17) * 17 for i in range(3)))
+                block = [color for dy in range(OVERSAMPLING)
+                         for color in self.pixels[y * OVERSAMPLING + dy][x * OVERSAMPLING:(x + 1) * OVERSAMPLING]
+                         if color]
+                if 2 * len(block) < OVERSAMPLING ** 2:
+                    row.append(None)
+                elif block.count(block[0]) == len(block):
+                    row.append(tuple(round(part / 17) * 17 for part in block[0]))
+                else:
+                    row.append(tuple(round(sum(color[i] for color in block) / len(block) / 17) * 17
+                                     for i in range(3)))
             rows.append(row)
         return rows
 
 
 def bouncing_ball(t):
     """A ball that falls, is flattened and jumps again."""
-    canvas = Canvas(96, PAPER)
+    canvas = Canvas()
     height = 1 - (2 * t - 1) ** 2
     press = max(0.0, 1 - height * 6)
-    canvas.ellipse(48, 86, 26 - 12 * height, 4 - 2 * height, (218, 224, 236))
+    canvas.shadow(48, 87, 26 - 12 * height, 5 - 2 * height, (34, 34, 68))
     width, tall = 18 * (1 + 0.25 * press), 18 * (1 - 0.25 * press)
     y = 84 - tall - 44 * height
-    canvas.ellipse(48, y, width, tall, (98, 92, 214))
+    canvas.ellipse(48, y, width, tall, (110, 100, 230))
     canvas.ellipse(42, y - tall * 0.4, width * 0.28, tall * 0.2, (178, 174, 244))
     return canvas.reduced()
 
 
 def beating_heart(t):
     """A heart that beats twice and rests."""
-    canvas = Canvas(96, PAPER)
+    canvas = Canvas()
     beat = max(math.exp(-((t - at) / 0.07) ** 2) * size for at, size in ((0.18, 1.0), (0.42, 0.6)))
     scale = 24 * (1 + 0.2 * beat)
 
@@ -80,8 +102,8 @@ def beating_heart(t):
 
 def typing_dots(t):
     """The bubble of one who is writing, with three dots that rise in turn."""
-    canvas = Canvas(96, PAPER)
-    bubble = (226, 233, 246)
+    canvas = Canvas()
+    bubble = (102, 119, 170)
 
     def rounded(px, py):
         dx, dy = max(0, abs(px - 48) - 18), abs(py - 46)
@@ -91,7 +113,7 @@ def typing_dots(t):
     canvas.fill(lambda px, py: px >= 18 and py >= 58 and (px - 18) * 1.1 + (py - 58) <= 20, bubble, (18, 58, 40, 80))
     for index in range(3):
         rise = max(0.0, math.sin(2 * math.pi * (t - index * 0.14)))
-        shade = tuple(round(a + (b - a) * rise) for a, b in zip((132, 146, 176), (64, 98, 190)))
+        shade = tuple(round(a + (b - a) * rise) for a, b in zip((204, 213, 238), (255, 255, 255)))
         canvas.disc(31 + 17 * index, 49 - 8 * rise, 5.5, shade)
     return canvas.reduced()
 
@@ -136,23 +158,22 @@ def lzw(indices, bits):
 
 
 def gif(frames, delay):
-    """An endless animation. Each frame but the first holds only the rectangle that differs from the one before."""
-    colors = sorted({color for frame in frames for row in frame for color in row})
-    bits = max(2, (len(colors) - 1).bit_length())
+    """An endless animation. Each frame holds the rectangle of what it shows, and is wiped out before the next."""
+    colors = sorted({color for frame in frames for row in frame for color in row if color})
+    bits = max(2, len(colors).bit_length())
     if bits > 8:
         raise ValueError(f"{len(colors)} colors")
     number = {color: index for index, color in enumerate(colors)}
+    number[None] = transparent = len(colors)
     side = len(frames[0])
-    data = bytearray(b"GIF89a" + side.to_bytes(2, "little") * 2 + bytes([0x80 | 0x70 | (bits - 1), 0, 0]))
+    data = bytearray(b"GIF89a" + side.to_bytes(2, "little") * 2 + bytes([0x80 | 0x70 | (bits - 1), transparent, 0]))
     data += b"".join(bytes(color) for color in colors).ljust(3 << bits, b"\0")
     data += b"\x21\xff\x0bNETSCAPE2.0\x03\x01\0\0\0"
-    before = None
     for frame in frames:
-        rows = [y for y in range(side) if before is None or frame[y] != before[y]] or [0]
-        columns = [x for x in range(side)
-                   if before is None or any(frame[y][x] != before[y][x] for y in range(side))] or [0]
+        rows = [y for y in range(side) if any(frame[y])]
+        columns = [x for x in range(side) if any(frame[y][x] for y in range(side))]
         left, top, right, bottom = columns[0], rows[0], columns[-1] + 1, rows[-1] + 1
-        data += b"\x21\xf9\x04\x04" + delay.to_bytes(2, "little") + b"\0\0,"
+        data += b"\x21\xf9\x04\x09" + delay.to_bytes(2, "little") + bytes([transparent, 0]) + b","
         for value in (left, top, right - left, bottom - top):
             data += value.to_bytes(2, "little")
         packed = lzw([number[color] for row in frame[top:bottom] for color in row[left:right]], bits)
@@ -161,7 +182,6 @@ def gif(frames, delay):
             part = packed[at:at + 255]
             data += bytes([len(part)]) + part
         data += b"\0"
-        before = frame
     return bytes(data + b";")
 
 
