@@ -106,6 +106,7 @@ class tst_QmlControllers : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
     void cleanup();
     void properties_data();
     void properties();
@@ -137,6 +138,7 @@ private Q_SLOTS:
     void popupAgainstAnItem();
     void popupIsToggled();
     void popupTimer();
+    void popupClosedWhileOpening();
     void contextsEndAtAnyTime_data();
     void contextsEndAtAnyTime();
     void windowContext();
@@ -152,6 +154,12 @@ void tst_QmlControllers::initTestCase()
     loadTheme(QStringLiteral("default.json"));
     WQmlTypes::registerQmlTypes();
     WQmlTypes::registerQmlTypes();
+}
+
+void tst_QmlControllers::cleanupTestCase()
+{
+    delete m_loader.getQmlEngine(); // no event loop ends here
+    QQuickWindow().releaseResources(); // images that nobody shows any more, which Qt keeps for a while
 }
 
 void tst_QmlControllers::cleanup()
@@ -266,7 +274,7 @@ void tst_QmlControllers::popupView()
     controller.setPopupQuickView(&second);
     Q_EMIT first.arrowFlipped(Qt::LeftArrow);
     QCOMPARE(controller.arrowAnchor(), WQmlBalloon::Bottom);
-    Q_EMIT second.arrowFlipped(Qt::ArrowType(99));
+    Q_EMIT second.arrowFlipped(Qt::ArrowType(7)); // the last value that the type can hold
     QCOMPARE(controller.arrowAnchor(), WQmlBalloon::None);
 
     controller.setArrowOffset(77);
@@ -771,6 +779,7 @@ struct Target
         context.setTarget(button);
         QVERIFY(QTest::qWaitForWindowActive(&area));
     }
+    ~Target() { delete loader.getQmlEngine(); } // it does not end with the loader
     QPoint middle() const
     {
         const QRect rect = context.targetRect();
@@ -1023,6 +1032,24 @@ void tst_QmlControllers::popupTimer()
     QVERIFY(!timer->isRunning());
 }
 
+void tst_QmlControllers::popupClosedWhileOpening()
+{
+    Target target;
+    target.context.setActivationProperty("checked");
+    const auto atChecked = connect(target.button, &QPushButton::toggled, &target.context, &PopupContext::close);
+    QVERIFY(!target.context.open());
+    QVERIFY(!target.context.isOpen());
+    deleteNow();
+    disconnect(atChecked);
+    QVERIFY(!target.button->isChecked());
+
+    connect(&target.context, &PopupContext::opened, &target.context, &PopupContext::close);
+    const PopupContextTimer timer(&target.context);
+    QVERIFY(target.context.open());
+    QVERIFY(!target.context.isOpen());
+    QVERIFY(!timer.isRunning());
+}
+
 void tst_QmlControllers::contextsEndAtAnyTime_data()
 {
     QTest::addColumn<QString>("when");
@@ -1099,6 +1126,9 @@ void tst_QmlControllers::windowContext()
 // UIELEMENTS_WRITE_QMLTYPES in the environment the file is written anew.
 void tst_QmlControllers::typeInformation()
 {
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("A program without the address sanitizer cannot load a plug-in that has it.");
+#endif
     const QString tools = QLibraryInfo::location(QLibraryInfo::BinariesPath);
     const QString program = QStandardPaths::findExecutable(QStringLiteral("qmlplugindump"), {tools});
     QVERIFY2(!program.isEmpty(), "qmlplugindump is not there");

@@ -22,6 +22,7 @@ class tst_QmlEngineAndApplication : public QObject
 private Q_SLOTS:
     void loaderWithoutApplication();
     void applicationEngine();
+    void firstAskedForAtTheEnd();
     void notAttached();
 };
 
@@ -250,6 +251,12 @@ void tst_QmlEngine::sceneGraphErrorIsToldOnce()
     QCOMPARE(log.take(), QStringList({line, line}));
     QCOMPARE(told.count(), 1);
     delete engine;
+
+    // A host that ends the engine at once.
+    WQmlEngine *const failing = loader.getQmlEngine();
+    connect(&loader, &WQmlEngineLoader::sceneGraphCriticalError, failing, [failing] { delete failing; });
+    failing->onSceneGraphCriticalError();
+    QCOMPARE(told.count(), 2);
 }
 
 void tst_QmlEngine::performanceWatcher()
@@ -329,6 +336,7 @@ void tst_QmlEngine::loader()
     QTimer::singleShot(0, &app, &QCoreApplication::quit);
     app.exec();
     QVERIFY(!engine);
+    QCoreApplication::processEvents(); // the application goes on after all
 
     WQmlEngineLoader::Impl impl(nullptr);
     impl.load();
@@ -383,6 +391,23 @@ void tst_QmlEngineAndApplication::applicationEngine()
     app.exec();
     QVERIFY(!engine);
     QVERIFY(!late);
+}
+
+void tst_QmlEngineAndApplication::firstAskedForAtTheEnd()
+{
+    Application app;
+    WQmlEngine *late = nullptr;
+    const auto ask = connect(&app, &QCoreApplication::aboutToQuit, &app, [&] { late = app.getQmlEngine(); });
+    QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    app.exec();
+    QVERIFY(!late);
+    disconnect(ask);
+    QTimer::singleShot(0, &app, [&] {
+        late = app.getQmlEngine();
+        app.quit();
+    });
+    app.exec();
+    QVERIFY(late); // it went on after all
 }
 
 void tst_QmlEngineAndApplication::notAttached()

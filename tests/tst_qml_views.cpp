@@ -44,6 +44,9 @@ private Q_SLOTS:
     void popupCloses_data();
     void popupCloses();
     void popupFollowsItsParent();
+    void popupShownAgain();
+    void popupWithoutParent();
+    void endedByItsHandlers();
     void activationItem();
     void tabPassesThrough();
     void screenReader();
@@ -73,6 +76,22 @@ public:
 };
 
 const QString box = QStringLiteral("Box.qml"); // 120 x 60
+
+struct EventCounter : QObject
+{
+    EventCounter(QObject *object, QEvent::Type counted)
+        : type(counted)
+    {
+        object->installEventFilter(this);
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == type;
+        return false;
+    }
+    const QEvent::Type type;
+    int count = 0;
+};
 
 bool activate(QWindow *window)
 {
@@ -116,9 +135,9 @@ void tst_QmlViews::windowSetUp_data()
     QTest::newRow("fixed dialog") << "fixed dialog"
                                   << "Dialog deletes transient fixed";
     QTest::newRow("popup") << "popup"
-                           << "Frameless tracks deletes parent transient fixed";
+                           << "Frameless tracks deletes parent transient fixed transparent";
     QTest::newRow("popup as dialog") << "dialog popup"
-                                     << "Dialog Frameless tracks deletes parent transient fixed";
+                                     << "Dialog Frameless tracks deletes parent transient fixed transparent";
 }
 
 void tst_QmlViews::windowSetUp()
@@ -150,6 +169,9 @@ void tst_QmlViews::windowSetUp()
     add(options.parentWindow == &parent, "parent");
     add(view->transientParent() == &parent, "transient");
     add(view->minimumSize() == QSize(120, 60) && view->maximumSize() == QSize(120, 60), "fixed");
+    // The balloon does not fill its window. The desktop must know before there is one.
+    QVERIFY(!view->handle());
+    add(view->color() == QColor(Qt::transparent) && view->requestedFormat().hasAlpha(), "transparent");
     QCOMPARE(words.join(QLatin1Char(' ')), expected);
     QVERIFY(!view->parent());
     QCOMPARE(view->objectName(), QStringLiteral("Box"));
@@ -675,11 +697,89 @@ void tst_QmlViews::popupFollowsItsParent()
     QWindow parent;
     parent.setGeometry(100, 100, 200, 200);
     QVERIFY(activate(&parent));
-    const QScopedPointer<WPopupQuickView> popup(m_factory->createQmlPopup(box, &parent, nullptr, false));
+    QScopedPointer<WPopupQuickView> popup(m_factory->createQmlPopup(box, &parent, nullptr, false));
     popup->showFrom(QRect(300, 300, 40, 20));
     const QPoint before = popup->position();
     parent.setPosition(130, 90);
     QTRY_COMPARE(popup->position(), before + QPoint(30, -10));
+
+    popup.reset(); // or it closes when the next one takes the focus
+
+    // In a window inside of another one it goes along with both.
+    QWindow inside(&parent);
+    inside.setGeometry(10, 10, 100, 100);
+    inside.show();
+    const QScopedPointer<WPopupQuickView> nested(m_factory->createQmlPopup(box, &inside, nullptr, false));
+    nested->showFrom(QRect(300, 300, 40, 20));
+    const QPoint start = nested->position();
+    parent.setPosition(140, 110);
+    QTRY_COMPARE(nested->position(), start + QPoint(10, 20));
+    inside.setPosition(15, 10);
+    QTRY_COMPARE(nested->position(), start + QPoint(15, 20));
+}
+
+// Moved with its target, which may scroll: the focus stays where it is, and a popup that stays in its place costs
+// nothing.
+void tst_QmlViews::popupShownAgain()
+{
+    QWindow parent;
+    QVERIFY(activate(&parent));
+    const QScopedPointer<WPopupQuickView> popup(m_factory->createQmlPopup(box, &parent, nullptr, false));
+    popup->showFrom(QRect(300, 300, 40, 20));
+    QTRY_COMPARE(QGuiApplication::focusWindow(), popup.data());
+    const QScopedPointer<WPopupQuickView> inner(m_factory->createQmlPopup(box, popup.data(), nullptr, false));
+    QVERIFY(activate(inner.data()));
+    const QPoint before = popup->position();
+    popup->showFrom(QRect(310, 320, 40, 20));
+    QCoreApplication::processEvents();
+    QCOMPARE(popup->position(), before + QPoint(10, 20));
+    QCOMPARE(QGuiApplication::focusWindow(), inner.data());
+
+    EventCounter exposed(popup.data(), QEvent::Expose);
+    popup->showFrom(QRect(310, 320, 40, 20));
+    QCoreApplication::processEvents();
+    QCOMPARE(exposed.count, 0);
+    popup->showFrom(QRect(310, 320, 40, 20), Qt::DownArrow);
+    QCOMPARE(popup->y(), 320 - 60);
+}
+
+void tst_QmlViews::popupWithoutParent()
+{
+    QWindow outer;
+    outer.show();
+    auto *embedded = new QWindow(&outer);
+    QVERIFY(activate(embedded));
+    MessageLog log;
+    const QScopedPointer<WPopupQuickView> popup(m_factory->createQmlPopup(box, nullptr, nullptr, false));
+    popup->showFrom(QRect(300, 300, 40, 20));
+    QCOMPARE(popup->transientParent(), &outer);
+    QCOMPARE(log.takeWarnings(), QStringList());
+
+    // What the popup opened itself is not what it belongs to.
+    popup->setTransientParent(nullptr);
+    const QScopedPointer<WPopupQuickView> inner(m_factory->createQmlPopup(box, popup.data(), nullptr, false));
+    QVERIFY(activate(inner.data()));
+    popup->showFrom(QRect(320, 300, 40, 20));
+    QVERIFY(!popup->transientParent());
+}
+
+void tst_QmlViews::endedByItsHandlers()
+{
+    // Escape gives the focus back to a parent that ends together with its dialog.
+    auto *parent = new QWindow;
+    parent->show();
+    const QPointer<WPopupQuickView> popup = m_factory->createQmlPopup(box, parent, nullptr, false);
+    connect(popup, &WQuickView::aboutToClose, this, [parent] { delete parent; });
+    QVERIFY(activate(popup));
+    QTest::keyPress(popup, Qt::Key_Escape);
+    deleteNow();
+    QVERIFY(!popup);
+
+    const QPointer<WPopupQuickView> flipped = m_factory->createQmlPopup(box, nullptr, nullptr, false);
+    connect(flipped, &WPopupQuickView::arrowFlipped, this, [flipped] { delete flipped; });
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    flipped->showFrom(QRect(area.center().x(), area.bottom() - 20, 40, 20));
+    QVERIFY(!flipped);
 }
 
 void tst_QmlViews::activationItem()

@@ -11,6 +11,11 @@ IWApplication::IWApplication(int &argc, char **argv)
     , d(std::make_unique<IWApplicationPrivate>())
 {
     qRegisterMetaType<WColorSet>("WColorSet");
+    connect(this, &QCoreApplication::aboutToQuit, this, [this] {
+        d->isShuttingDown = true;
+        // Where an event loop runs again the application has not ended after all.
+        QTimer::singleShot(0, this, [this] { d->isShuttingDown = false; });
+    });
 }
 
 IWApplication::~IWApplication()
@@ -55,11 +60,6 @@ WQmlEngine *IWApplication::getQmlEngine() const
         qInfo("[UILifecycle][Startup] Creating WQmlEngine.");
         d->qmlEngine = new WQmlEngine(nullptr);
         connect(this, &QCoreApplication::aboutToQuit, d->qmlEngine.data(), &QObject::deleteLater);
-        connect(this, &QCoreApplication::aboutToQuit, d->qmlEngine.data(), [this] {
-            d->isShuttingDown = true;
-            // Where an event loop runs again the application has not ended after all.
-            QTimer::singleShot(0, this, [this] { d->isShuttingDown = false; });
-        });
         qInfo("[UILifecycle][Startup] Finished creating WQmlEngine.");
     }
     return static_cast<WQmlEngine *>(d->qmlEngine.data());

@@ -151,16 +151,16 @@ QPointer<WQuickView> PopupContext::createView(const IWQmlViewFactory &factory)
     if (!controller())
         setController(new WQmlPopupController(this));
     QWindow *const window = parentWindow() ? parentWindow() : targetWindow();
-    const QPointer<WPopupQuickView> view = factory.createQmlPopup(source(), window, controller(), false);
-    if (view)
-        view->setColor(Qt::transparent); // what is outside of the balloon
-    return QPointer<WQuickView>(view.data());
+    return QPointer<WQuickView>(factory.createQmlPopup(source(), window, controller(), false).data());
 }
 
 void PopupContext::showView()
 {
+    const QPointer<PopupContext> self(this);
     if (!m_activationProperty.isEmpty() && m_target)
         popup()->setupActivationItem(m_target, m_activationProperty);
+    if (!self || !isOpen()) // closed by whoever follows that property
+        return;
     followTarget();
     place();
 }

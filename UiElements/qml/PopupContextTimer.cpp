@@ -41,6 +41,8 @@ void PopupContextTimer::follow()
         m_view->removeEventFilter(this);
     m_view = m_context->view();
     m_isOver = false;
+    if (!m_view) // closed again by somebody who was told before
+        return;
     m_view->installEventFilter(this);
     m_timer.start();
 }

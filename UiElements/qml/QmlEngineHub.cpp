@@ -66,7 +66,8 @@ QObject *QmlEngineHub::create(QQmlComponent *spare, const QVariantMap &propertie
         }
         return nullptr;
     }
-    m_busy.insert(component);
+    QQmlComponent *const busy = component;
+    m_busy.insert(busy);
     const QPointer<QmlEngineHub> self(this);
     // As createWithInitialProperties() does, which forgets an object that lacks a required property.
     QPointer<QObject> object(component->beginCreate(m_engine->rootContext()));
@@ -76,11 +77,11 @@ QObject *QmlEngineHub::create(QQmlComponent *spare, const QVariantMap &propertie
         component->completeCreate();
     if (!self)
         return object;
-    m_busy.remove(component);
+    m_busy.remove(busy);
     if (component && component->isError()) {
         *errors = component->errors();
         delete object;
-        if (component != spare) {
+        if (component != spare && m_components.value(url) == component) {
             m_components.remove(url);
             component->deleteLater();
         }

@@ -44,6 +44,7 @@ QScreen *nearestScreen(const QPoint &point)
 WPopupQuickView::WPopupQuickView(QQmlEngine *engine, QWindow *parentWindow, const ViewOptions &options)
     : WQuickView(engine, parentWindow, options)
 {
+    setColor(Qt::transparent); // what is outside of the balloon; too late once the window has been made
 }
 
 WPopupQuickView::~WPopupQuickView()
@@ -77,15 +78,18 @@ void WPopupQuickView::showFrom(const QRect &target, Qt::ArrowType arrow, WPopupQ
 {
     m_target = target;
     m_wantedArrow = arrow;
-    if (!m_isPlaced)
+    const bool wasPlaced = std::exchange(m_isPlaced, true);
+    if (!wasPlaced)
         m_arrow = arrow; // whoever asks for it has told the balloon
-    m_isPlaced = true;
     m_alignment = alignment;
     m_wantedOffset = arrowOffset;
     m_arrowSize = arrowSize;
     if (const QWindow *window = getViewOptions().parentWindow)
-        m_parentPosition = window->position();
-    dispatchShow();
+        m_parentPosition = window->mapToGlobal(QPoint());
+    if (wasPlaced && isVisible())
+        place(); // the focus may be in a window that the popup has opened
+    else
+        dispatchShow();
 }
 
 QPoint WPopupQuickView::wantedPosition(Qt::ArrowType arrow) const
@@ -112,7 +116,8 @@ void WPopupQuickView::moveTo(const QRect &area)
     const QPoint wanted = wantedPosition(arrow);
     const QPoint position = WidgetUtils::fittedToScreen(QRect(wanted, size()), {area}).topLeft();
     const QPoint push = position - wanted;
-    setPosition(position);
+    if (!isVisible() || position != this->position())
+        setPosition(position);
     const bool isFlipped = std::exchange(m_arrow, arrow) != arrow;
     const bool isPushed = std::exchange(m_push, push) != push;
     const QPointer<WPopupQuickView> self(this);
@@ -125,8 +130,9 @@ void WPopupQuickView::moveTo(const QRect &area)
 void WPopupQuickView::place()
 {
     // Some desktops place a window only next to another one.
-    if (!transientParent() && QGuiApplication::focusWindow() != this)
-        setTransientParent(QGuiApplication::focusWindow());
+    QWindow *const focused = topLevel(QGuiApplication::focusWindow());
+    if (!transientParent() && focused && focused != this && !isAncestorOf(focused, IncludeTransients))
+        setTransientParent(focused);
     if (!m_isPlaced) {
         WQuickView::place();
         return;
@@ -154,9 +160,10 @@ void WPopupQuickView::resizeEvent(QResizeEvent *event)
 void WPopupQuickView::onActiveChanged()
 {
     const QWindow *window = getViewOptions().parentWindow;
-    if (window && m_isPlaced && isVisible() && window->position() != m_parentPosition) {
-        m_target.translate(window->position() - m_parentPosition);
-        m_parentPosition = window->position();
+    const QPoint position = window ? window->mapToGlobal(QPoint()) : m_parentPosition;
+    if (m_isPlaced && isVisible() && position != m_parentPosition) {
+        m_target.translate(position - m_parentPosition);
+        m_parentPosition = position;
         place();
     }
     WQuickView::onActiveChanged();
@@ -164,11 +171,15 @@ void WPopupQuickView::onActiveChanged()
 
 bool WPopupQuickView::event(QEvent *event)
 {
+    const QPointer<WPopupQuickView> self(this);
     if (event->type() == QEvent::Show)
         qApp->installEventFilter(this);
-    else if (event->type() == QEvent::Hide)
+    else if (event->type() == QEvent::Hide || event->type() == QEvent::Close) // it may take its parent window along
         qApp->removeEventFilter(this);
-    return WQuickView::event(event);
+    const bool isTaken = WQuickView::event(event);
+    if (self && event->type() == QEvent::Close && isVisible()) // its QML has declined
+        qApp->installEventFilter(this);
+    return isTaken;
 }
 
 bool WPopupQuickView::eventFilter(QObject *watched, QEvent *event)

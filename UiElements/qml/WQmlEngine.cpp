@@ -96,8 +96,10 @@ void WQmlEngine::onSceneGraphCriticalError()
 {
     if (m_sceneGraphErrorReported)
         return;
+    const QPointer<WQmlEngine> self(this);
     Q_EMIT sceneGraphCriticalError();
-    m_sceneGraphErrorReported = true;
+    if (self)
+        m_sceneGraphErrorReported = true;
 }
 
 void WQmlEngine::reload()

@@ -15,17 +15,6 @@
 
 #include <cmath>
 
-namespace {
-
-QWindow *topLevel(QWindow *window)
-{
-    while (window && window->parent())
-        window = window->parent();
-    return window;
-}
-
-} // namespace
-
 // Not QWindow's parent: that would put this window inside the other one.
 WQuickView::WQuickView(QQmlEngine *engine, QWindow *parentWindow, const ViewOptions &options)
     : QQuickView(engine, nullptr)
@@ -53,7 +42,8 @@ void WQuickView::setAccessibleRole(QAccessible::Role role)
 
 void WQuickView::setViewOptions(const ViewOptions &options)
 {
-    if (const QWindow *window = m_options.parentWindow) {
+    // A window inside of another one is not told when that one moves.
+    for (const QWindow *window = m_options.parentWindow; window; window = window->parent()) {
         disconnect(window, &QWindow::xChanged, this, &WQuickView::onActiveChanged);
         disconnect(window, &QWindow::yChanged, this, &WQuickView::onActiveChanged);
     }
@@ -67,7 +57,7 @@ void WQuickView::setViewOptions(const ViewOptions &options)
     }
     connect(this, &QWindow::activeChanged, this, &WQuickView::onActiveChanged, Qt::UniqueConnection);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &WQuickView::onActiveChanged, Qt::UniqueConnection);
-    if (const QWindow *window = options.parentWindow) {
+    for (const QWindow *window = options.parentWindow; window; window = window->parent()) {
         connect(window, &QWindow::xChanged, this, &WQuickView::onActiveChanged, Qt::UniqueConnection);
         connect(window, &QWindow::yChanged, this, &WQuickView::onActiveChanged, Qt::UniqueConnection);
     }
@@ -145,7 +135,10 @@ void WQuickView::dispatchShow()
 void WQuickView::_dispatchShow()
 {
     m_showWhenReady = false;
+    const QPointer<WQuickView> self(this);
     place();
+    if (!self)
+        return;
     show();
     requestActivate();
 }
@@ -180,6 +173,13 @@ void WQuickView::onStatus(QQuickView::Status status)
         setupFixedSize();
     if (status != Loading && status != Null && m_showWhenReady)
         _dispatchShow();
+}
+
+QWindow *WQuickView::topLevel(QWindow *window)
+{
+    while (window && window->parent())
+        window = window->parent();
+    return window;
 }
 
 bool WQuickView::holdsFocus() const
@@ -237,7 +237,7 @@ void WQuickView::keyPressEvent(QKeyEvent *event)
     QQuickView::keyPressEvent(event);
     if (self && closesOnEscape() && event->key() == Qt::Key_Escape && (!asked || !event->isAccepted())) {
         event->accept();
-        QWindow *const owner = transientParent();
+        const QPointer<QWindow> owner(transientParent());
         close();
         if (owner && owner->isVisible())
             owner->requestActivate();

@@ -67,6 +67,7 @@ protected:
     virtual void place();
     void dispatchShow();
     virtual bool closesOnEscape() const { return m_options.closeOnEscape; }
+    static QWindow *topLevel(QWindow *window);
     /// Whether the focus is in this window or in one that belongs to it.
     bool holdsFocus() const;
 

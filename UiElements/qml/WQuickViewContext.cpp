@@ -75,7 +75,10 @@ bool WQuickViewContext::open()
 
 void WQuickViewContext::close()
 {
-    if (m_view)
+    // A view that was not yet shown is not told to close.
+    if (m_view && !m_view->handle())
+        onClosed();
+    else if (m_view)
         m_view->close();
 }
 
@@ -123,10 +126,12 @@ void WQuickViewContext::onClosed()
     // A view that was destroyed without being closed is null here already.
     if (const QPointer<WQuickView> view = std::exchange(m_view, nullptr)) {
         disconnect(view, nullptr, this, nullptr);
-        m_lastPosition = view->position();
-        m_hasLastPosition = true;
+        if (view->handle()) {
+            m_lastPosition = view->position();
+            m_hasLastPosition = true;
+        }
         // Closed in a way that keeps it: nobody would show it again.
-        if (!view->getViewOptions().deleteOnClose)
+        if (!view->getViewOptions().deleteOnClose || !view->handle())
             view->deleteLater();
     }
     const QPointer<WQuickViewContext> self(this);

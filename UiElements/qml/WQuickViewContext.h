@@ -37,7 +37,7 @@ public:
     QObject *controller() const { return m_controller; }
     void setController(QObject *controller) { m_controller = controller; }
 
-    bool isOpen() const { return m_view; }
+    bool isOpen() const { return !m_view.isNull(); }
     QPointer<WQuickView> view() const { return m_view; }
 
     /// False, after a warning, when there is nothing to show.
