@@ -243,7 +243,7 @@ QString GalleryStyles::rail(Qt::LayoutDirection direction)
     return QStringLiteral("$backgroundColors: navigation-background; $borders: none; $borderRadius: 11 %1;\n"
                           "#rail:hover { background-color: $(navigation-background.normal); }")
         .arg(direction == Qt::LeftToRight ? QStringLiteral("top-left, bottom-left")
-                                           : QStringLiteral("top-right, bottom-right"));
+                                          : QStringLiteral("top-right, bottom-right"));
 }
 
 QString GalleryStyles::callBar()

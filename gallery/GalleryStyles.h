@@ -52,8 +52,8 @@ QString slider();
 QString progressBar();
 QString menu();
 QString menuWithIcons();
-/// A WPushButton: "primary", "secondary", "danger" or "ghost". One with icon and text has the height of the icon for its
-/// padding, one that shows only an icon has equal sides.
+/// A WPushButton: "primary", "secondary", "danger" or "ghost". One with icon and text has the height of the icon for
+/// its padding, one that shows only an icon has equal sides.
 QString pushButton(const QString &kind);
 QString svgButton(const QString &kind);
 QString iconButton(const QString &kind);

@@ -202,8 +202,9 @@ void ButtonsPage::addStates()
     svg->addVariant(tr("WSvgPushButton, icon only, with badge"), [] { return withBadge(makeMuteIcon()); });
     addCard(svg);
 
-    auto *anchor = new StateCard(QStringLiteral("WSvgAnchorButton"), tr("A second icon tells whether something is open."),
-                                 [] { return makeAnchor(tr("Sort")); });
+    auto *anchor =
+        new StateCard(QStringLiteral("WSvgAnchorButton"), tr("A second icon tells whether something is open."),
+                      [] { return makeAnchor(tr("Sort")); });
     anchor->addVariant(tr("WSvgAnchorButton with badge"), [] { return withBadge(makeAnchor(tr("Sort"))); });
     addCard(anchor);
 
@@ -219,8 +220,8 @@ void ButtonsPage::addStates()
     tab->addVariant(tr("WUnderlineButton with badge"), [] { return withBadge(makeTab(tr("Files"))); });
     addCard(tab);
 
-    auto *toggle =
-        new StateCard(QStringLiteral("WToggleButton"), tr("Flat, with a tooltip for each of its two states."), makeToggle);
+    auto *toggle = new StateCard(QStringLiteral("WToggleButton"),
+                                 tr("Flat, with a tooltip for each of its two states."), makeToggle);
     toggle->addVariant(tr("WToggleButton with badge"), [] { return withBadge(makeToggle()); });
     addCard(toggle);
 
@@ -362,9 +363,8 @@ void ButtonsPage::addTabs()
     FlowLayout *pills = nullptr;
     column->addWidget(makeFlow(&pills));
     auto *pillGroup = new QButtonGroup(this);
-    for (WPillTabButton *pill :
-         {makePill(tr("All")), makePill(tr("Unread")), makePill(tr("Mentions"), "mention_12"),
-          makePill(tr("Starred"), "star_12"), makePill(tr("With files"), "attach_12")}) {
+    for (WPillTabButton *pill : {makePill(tr("All")), makePill(tr("Unread")), makePill(tr("Mentions"), "mention_12"),
+                                 makePill(tr("Starred"), "star_12"), makePill(tr("With files"), "attach_12")}) {
         pillGroup->addButton(pill);
         pills->addWidget(pill);
     }
@@ -397,9 +397,12 @@ void ButtonsPage::addElided()
     {
         WPushButton *button;
         Qt::TextElideMode mode;
-    } samples[] = {{makePushButton(text), Qt::ElideRight}, {makePushButton(text), Qt::ElideMiddle},
-                   {svg, Qt::ElideRight},                  {anchor, Qt::ElideRight},
-                   {makePill(text), Qt::ElideRight},       {tab, Qt::ElideRight}};
+    } samples[] = {{makePushButton(text), Qt::ElideRight},
+                   {makePushButton(text), Qt::ElideMiddle},
+                   {svg, Qt::ElideRight},
+                   {anchor, Qt::ElideRight},
+                   {makePill(text), Qt::ElideRight},
+                   {tab, Qt::ElideRight}};
     int place = 0;
     for (const auto &sample : samples) {
         sample.button->setElideMode(sample.mode);

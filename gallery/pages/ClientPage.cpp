@@ -263,8 +263,8 @@ QWidget *ClientPage::makeSpaces()
 {
     WFrame *side = makeSection("none");
     followDirection(side, [side](Qt::LayoutDirection direction) {
-        side->setCSS(GalleryStyles::section(direction == Qt::LeftToRight ? QStringLiteral("right")
-                                                                         : QStringLiteral("left")));
+        side->setCSS(
+            GalleryStyles::section(direction == Qt::LeftToRight ? QStringLiteral("right") : QStringLiteral("left")));
     });
     side->setFixedWidth(SpacesWidth);
     auto *column = new QVBoxLayout(side);
@@ -495,8 +495,7 @@ void ClientPage::open(const QModelIndex &source)
     const QString name = source.data(ConversationModel::NameRole).toString();
     if (!m_stories.contains(name)) {
         const auto time = QDateTime::fromMSecsSinceEpoch(source.data(ConversationModel::TimeRole).toLongLong());
-        m_stories[name] =
-            ClientStory::of(name, source.data(ConversationModel::MessageRole).toString(), time);
+        m_stories[name] = ClientStory::of(name, source.data(ConversationModel::MessageRole).toString(), time);
     }
     m_avatar->setText(makeInitials(name));
     m_avatar->setAccessibleName(name);

@@ -112,8 +112,9 @@ void LabelsPage::addStates()
     const auto make = [] {
         return makeClickable(makeLabel(tr("Show all"), "button-hyperlink-text"));
     };
-    auto *card = new StateCard(tr("Labels that can be clicked"),
-                               tr("WLabel, WEmojiLabel and WSvgLabel. Tab reaches them, Return and Space click."), make);
+    auto *card =
+        new StateCard(tr("Labels that can be clicked"),
+                      tr("WLabel, WEmojiLabel and WSvgLabel. Tab reaches them, Return and Space click."), make);
     card->addVariant(QStringLiteral("WEmojiLabel"),
                      [] { return makeClickable(makeEmojiLabel(QString::fromUtf8("Party \xf0\x9f\x8e\x89"))); });
     card->addVariant(QStringLiteral("WSvgLabel"), [] {
@@ -149,9 +150,8 @@ void LabelsPage::addPlain()
     lines.add(tr("Selectable"), selectable);
     WLabel *counted = makeLabel(tr("Click me"));
     counted->setAccessibleDescription(tr("Counts the clicks"));
-    connect(counted, &WLabel::clicked, counted, [counted, count = 0]() mutable {
-        counted->setText(tr("Clicked %n times", nullptr, ++count));
-    });
+    connect(counted, &WLabel::clicked, counted,
+            [counted, count = 0]() mutable { counted->setText(tr("Clicked %n times", nullptr, ++count)); });
     lines.add(tr("Clickable"), counted);
 }
 
@@ -166,7 +166,8 @@ void LabelsPage::addRich()
     rich->setText(tr("Read the <a href=\"notes\">notes of the <b>review</b></a> or the <a href=\"draft\">draft</a>."));
     rich->setTextInteractionFlags(Qt::TextBrowserInteraction);
     WLabel *told = makeLabel(tr("No link followed yet"), "text-secondary");
-    connect(rich, &QLabel::linkActivated, told, [told](const QString &link) { told->setText(tr("Link: %1").arg(link)); });
+    connect(rich, &QLabel::linkActivated, told,
+            [told](const QString &link) { told->setText(tr("Link: %1").arg(link)); });
     lines.add(tr("With links"), rich);
     lines.add(QString(), told);
     WLabel *image = makeLabel(QString());
@@ -184,8 +185,8 @@ void LabelsPage::addEmoji()
     WEmojiLabel *elided = makeEmojiLabel(emojiSample());
     elided->setElideMode(Qt::ElideRight);
     lines.add(tr("Elided"), elided, NarrowWidth);
-    WEmojiLabel *many = makeEmojiLabel(
-        QString::fromUtf8("Agenda \xf0\x9f\x93\x9d\n1. Numbers \xf0\x9f\x93\x88\n2. Who brings cake? \xf0\x9f\x8d\xb0"));
+    WEmojiLabel *many = makeEmojiLabel(QString::fromUtf8(
+        "Agenda \xf0\x9f\x93\x9d\n1. Numbers \xf0\x9f\x93\x88\n2. Who brings cake? \xf0\x9f\x8d\xb0"));
     lines.add(tr("Three lines"), many);
     WEmojiLabel *large = makeEmojiLabel(QString::fromUtf8("\xf0\x9f\x8e\x89\xf0\x9f\x8e\x82\xf0\x9f\xa5\xb3"));
     large->setFontToken(WFont::Display);
@@ -238,9 +239,9 @@ void LabelsPage::addIcons()
     auto *places = new QHBoxLayout;
     places->setSpacing(16);
     column->addLayout(places);
-    for (const auto &at : {qMakePair(tr("At the left"), WEnum::HorAlign::Left),
-                           qMakePair(tr("In the middle"), WEnum::HorAlign::Center),
-                           qMakePair(tr("At the right"), WEnum::HorAlign::Right)}) {
+    for (const auto &at :
+         {qMakePair(tr("At the left"), WEnum::HorAlign::Left), qMakePair(tr("In the middle"), WEnum::HorAlign::Center),
+          qMakePair(tr("At the right"), WEnum::HorAlign::Right)}) {
         WSvgLabel *label = makeSvgLabel(at.first, "call_16");
         label->setTextHorAlign(at.second);
         label->setCSS(QStringLiteral("$textColors: text-primary; $backgroundColors: background-secondary; "
@@ -258,11 +259,11 @@ void LabelsPage::addWrapped()
     WLabel *plain = makeLabel(tr("We have moved the review to Thursday because half of the team is on the train until "
                                  "noon. Bring what you have, also where it is not finished: the point is to see all of "
                                  "it side by side before anybody polishes a part of it."));
-    WEmojiLabel *emoji = makeEmojiLabel(
-        QString::fromUtf8("The photos of the trip are there \xf0\x9f\x93\xb8 \xe2\x80\x94 the mountains "
-                          "\xe2\x9b\xb0\xef\xb8\x8f on the first day, the sea \xf0\x9f\x8c\x8a on the second, and on the "
-                          "third day \xf0\x9f\x8c\xa7\xef\xb8\x8f we played cards \xf0\x9f\x83\x8f and ate everything "
-                          "that was left \xf0\x9f\x8d\x9d\xf0\x9f\x8d\x93\xf0\x9f\xa7\x80"));
+    WEmojiLabel *emoji = makeEmojiLabel(QString::fromUtf8(
+        "The photos of the trip are there \xf0\x9f\x93\xb8 \xe2\x80\x94 the mountains "
+        "\xe2\x9b\xb0\xef\xb8\x8f on the first day, the sea \xf0\x9f\x8c\x8a on the second, and on the "
+        "third day \xf0\x9f\x8c\xa7\xef\xb8\x8f we played cards \xf0\x9f\x83\x8f and ate everything "
+        "that was left \xf0\x9f\x8d\x9d\xf0\x9f\x8d\x93\xf0\x9f\xa7\x80"));
     for (WLabel *label : {plain, static_cast<WLabel *>(emoji)}) {
         label->setWordWrap(true);
         QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);

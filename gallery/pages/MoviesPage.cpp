@@ -70,7 +70,8 @@ MoviesPage::MoviesPage()
 
 void MoviesPage::addLabels()
 {
-    WFrame *card = addCard(QStringLiteral("WGifLabel"), tr("The image is fitted into the label, less 5 pixels around."));
+    WFrame *card =
+        addCard(QStringLiteral("WGifLabel"), tr("The image is fitted into the label, less 5 pixels around."));
     FlowLayout *row = nullptr;
     columnOf(card)->addWidget(makeFlow(&row));
     row->setSpacing(24);
@@ -137,8 +138,7 @@ void MoviesPage::addProvider()
         stack->addWidget(fallback);
         column->addWidget(stack);
         column->addWidget(caption(title));
-        connect(provider, &WMovieProvider::movieChanged, view,
-                [provider, view] { view->setMovie(provider->movie()); });
+        connect(provider, &WMovieProvider::movieChanged, view, [provider, view] { view->setMovie(provider->movie()); });
         connect(provider, &WMovieProvider::fallbackSourceChanged, fallback,
                 [provider, fallback] { fallback->setPixmap(QPixmap(provider->fallbackSource())); });
         connect(provider, &WMovieProvider::stackIndexChanged, stack,
