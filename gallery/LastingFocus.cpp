@@ -8,14 +8,18 @@
 #include <utility>
 
 LastingFocus::LastingFocus()
-    : m_holder(new QWidget)
 {
+    auto *all = new QWidget;
+    all->setFocusPolicy(Qt::StrongFocus);
+    m_holder = new QWidget(all);
     m_holder->setFocusPolicy(Qt::StrongFocus);
-    QGraphicsProxyWidget *proxy = addWidget(m_holder);
+    QGraphicsProxyWidget *proxy = addWidget(all);
     QEvent activate(QEvent::WindowActivate);
     QCoreApplication::sendEvent(this, &activate);
     proxy->setFocus();
     m_holder->setFocus();
+    // Tab would go to a widget that the focus is lent to, find it here and get no further.
+    m_holder->setFocusPolicy(Qt::NoFocus);
 }
 
 void LastingFocus::lendTo(QWidget *widget)

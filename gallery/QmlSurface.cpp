@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -45,19 +46,19 @@ void QmlSurface::setView(WQuickWidget *view)
 void QmlSurface::showFrames(const QWidget *window)
 {
     QObject context;
-    QSet<const QQuickWindow *> waiting;
+    const auto waiting = std::make_shared<QSet<const QQuickWindow *>>();
     const QList<QQuickWidget *> views = window->findChildren<QQuickWidget *>();
     for (const QQuickWidget *view : views) {
         if (!view->isVisible() || view->size().isEmpty())
             continue;
         QQuickWindow *const scene = view->quickWindow();
-        waiting.insert(scene);
-        connect(scene, &QQuickWindow::afterRendering, &context, [scene, &waiting] { waiting.remove(scene); });
+        waiting->insert(scene);
+        connect(scene, &QQuickWindow::afterRendering, &context, [scene, waiting] { waiting->remove(scene); });
         scene->update();
     }
     bool isLate = false;
     QTimer::singleShot(LongestFrame, &context, [&isLate] { isLate = true; });
-    while (!waiting.isEmpty() && !isLate)
+    while (!waiting->isEmpty() && !isLate)
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
 }
 

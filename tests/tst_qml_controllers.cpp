@@ -38,13 +38,20 @@ namespace {
 
 constexpr int TitleRole = Qt::UserRole + 1;
 
-const QVariantMap dialogTexts {{QStringLiteral("title"), QStringLiteral("Leave?")},
-                               {QStringLiteral("text"), QStringLiteral("The others stay.")},
-                               {QStringLiteral("acceptText"), QStringLiteral("Leave")},
-                               {QStringLiteral("rejectText"), QStringLiteral("Stay")}};
-const QVariantMap popupTexts {{QStringLiteral("title"), QStringLiteral("Mentions")},
-                              {QStringLiteral("text"), QStringLiteral("Whoever writes your name turns up here.")},
-                              {QStringLiteral("action"), QStringLiteral("Got it")}};
+QVariantMap dialogTexts()
+{
+    return {{QStringLiteral("title"), QStringLiteral("Leave?")},
+            {QStringLiteral("text"), QStringLiteral("The others stay.")},
+            {QStringLiteral("acceptText"), QStringLiteral("Leave")},
+            {QStringLiteral("rejectText"), QStringLiteral("Stay")}};
+}
+
+QVariantMap popupTexts()
+{
+    return {{QStringLiteral("title"), QStringLiteral("Mentions")},
+            {QStringLiteral("text"), QStringLiteral("Whoever writes your name turns up here.")},
+            {QStringLiteral("action"), QStringLiteral("Got it")}};
+}
 
 BaseListModel::Rows rowsOf(int count)
 {
@@ -81,7 +88,8 @@ QList<QQuickItem *> itemsBelow(QQuickItem *root)
 
 QQuickItem *itemWith(QQuickItem *root, const char *property, const QVariant &value)
 {
-    for (QQuickItem *item : itemsBelow(root)) {
+    const auto items = itemsBelow(root);
+    for (QQuickItem *item : items) {
         if (item->metaObject()->indexOfProperty(property) >= 0 && item->property(property) == value)
             return item;
     }
@@ -159,7 +167,6 @@ void tst_QmlControllers::initTestCase()
 void tst_QmlControllers::cleanupTestCase()
 {
     delete m_loader.getQmlEngine(); // no event loop ends here
-    QQuickWindow().releaseResources(); // images that nobody shows any more, which Qt keeps for a while
 }
 
 void tst_QmlControllers::cleanup()
@@ -228,7 +235,7 @@ void tst_QmlControllers::modelOwnership()
     QFETCH(bool, takes);
     // As a pointer to another class, and as what is no object at all.
     const QPointer<BaseListModel> model(new BaseListModel);
-    for (const QVariant &value : {QVariant::fromValue(model.data()), QVariant(popupTexts)}) {
+    for (const QVariant &value : {QVariant::fromValue(model.data()), QVariant(popupTexts())}) {
         const std::unique_ptr<QObject> controller(popup ? static_cast<QObject *>(new WQmlPopupController)
                                                         : new WQmlDialogController);
         controller->setProperty("takesModelOwnership", takes);
@@ -488,9 +495,9 @@ void tst_QmlControllers::pages_data()
     static EmptyStateBaseListModel rows;
     if (rows.getCount() == 0)
         setUp(&rows, 5);
-    QTest::newRow("balloon") << QStringLiteral("BalloonPopup.qml") << true << QVariant(popupTexts)
+    QTest::newRow("balloon") << QStringLiteral("BalloonPopup.qml") << true << QVariant(popupTexts())
                              << QByteArray("Notification(Mentions) Button(Got it)");
-    QTest::newRow("dialog") << QStringLiteral("MessageDialog.qml") << false << QVariant(dialogTexts)
+    QTest::newRow("dialog") << QStringLiteral("MessageDialog.qml") << false << QVariant(dialogTexts())
                             << QByteArray("Dialog(Leave?) Heading(Leave?) StaticText(The others stay.) Button(Stay) "
                                           "Button(Leave)");
     QTest::newRow("list") << QStringLiteral("EmptyStateList.qml") << false << QVariant::fromValue<QObject *>(&rows)
@@ -561,7 +568,8 @@ void tst_QmlControllers::pages()
         QCoreApplication::processEvents();
         QCOMPARE(page->grabFramebuffer(), leftToRight);
     }
-    for (QQuickItem *item : itemsBelow(root)) {
+    const auto items = itemsBelow(root);
+    for (QQuickItem *item : items) {
         if (item->inherits("QQuickText") && item->isVisible())
             QVERIFY(root->boundingRect().contains(item->mapRectToItem(root, item->boundingRect())));
     }
@@ -589,7 +597,7 @@ void tst_QmlControllers::dialogKeys()
     QFETCH(QVector<int>, keys);
     QFETCH(QString, outcome);
     WQmlDialogController controller;
-    controller.setModel(dialogTexts);
+    controller.setModel(dialogTexts());
     DialogContext dialog(m_factory, QStringLiteral("MessageDialog.qml"));
     dialog.setController(&controller);
     QStringList told;
@@ -815,7 +823,7 @@ void tst_QmlControllers::popupFollowsItsTarget()
     Target target;
     target.context.setActivationProperty("checked");
     QVERIFY(target.context.open());
-    target.context.popupController()->setModel(popupTexts);
+    target.context.popupController()->setModel(popupTexts());
     QVERIFY(target.button->isChecked());
     QTRY_COMPARE(qRound(target.tip().x()), target.middle().x());
     QCOMPARE(target.tip().y(), double(target.context.targetRect().bottom()));
@@ -914,7 +922,7 @@ void tst_QmlControllers::popupSides()
     Target target;
     target.area.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
     WQmlPopupController controller;
-    controller.setModel(popupTexts);
+    controller.setModel(popupTexts());
     controller.setArrowSize(7);
     target.context.setController(&controller);
     // An arrow at the end of its side is kept from the corner; the offset makes room for that.
@@ -1064,7 +1072,7 @@ void tst_QmlControllers::contextsEndAtAnyTime()
     auto *dialog = new DialogContext(m_factory, QStringLiteral("MessageDialog.qml"));
     const QPointer<DialogContext> guard(dialog);
     auto *own = new WQmlDialogController(dialog);
-    own->setModel(dialogTexts);
+    own->setModel(dialogTexts());
     const QPointer<QObject> controller(own);
     dialog->setController(own);
     const auto end = [&dialog] {

@@ -14,6 +14,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <memory>
+
 // Application objects come and go here. There must be no QQuickWidget: Qt makes them in one such object only.
 class tst_QmlEngineAndApplication : public QObject
 {
@@ -267,9 +269,9 @@ void tst_QmlEngine::performanceWatcher()
     QmlFiles files(engine);
     for (const char *file : {"A.qml", "DevToolsView.qml"})
         files.write(file, "Rectangle { width: 50; height: 50 }");
-    int heard = 0;
-    connect(engine, &WQmlEngine::finishedRendering, engine, [&](const QString &source, qint64 time) {
-        ++heard;
+    const auto heard = std::make_shared<int>(0);
+    connect(engine, &WQmlEngine::finishedRendering, engine, [heard](const QString &source, qint64 time) {
+        ++*heard;
         QVERIFY(source.endsWith(QLatin1String("/A.qml")));
         QVERIFY(time > 1000 && time < Q_INT64_C(60000000000)); // nanoseconds
     });
@@ -290,17 +292,17 @@ void tst_QmlEngine::performanceWatcher()
             delete view;
     };
     showAll();
-    QCOMPARE(heard, 0);
+    QCOMPARE(*heard, 0);
     engine->setPerformanceWatcherEnabled(true);
     showAll();
-    QCOMPARE(heard, 2); // once for the view and once for the widget
+    QCOMPARE(*heard, 2); // once for the view and once for the widget
     engine->setPerformanceWatcherEnabled(true); // no change: nobody is disconnected
     Q_EMIT engine->finishedRendering(QStringLiteral("/A.qml"), 5000);
-    QCOMPARE(heard, 3);
+    QCOMPARE(*heard, 3);
     engine->setPerformanceWatcherEnabled(false);
     engine->setPerformanceWatcherEnabled(true);
     Q_EMIT engine->finishedRendering(QStringLiteral("/A.qml"), 5000);
-    QCOMPARE(heard, 3);
+    QCOMPARE(*heard, 3);
     delete engine;
 }
 

@@ -341,7 +341,6 @@ void tst_QmlViews::viewsInsideViews()
         m_loader->getQmlEngine()->reload();
     };
     views = {};
-    const QString source = QStringLiteral("Nest.qml");
     controller.run = [&] {
         controller.run = nullptr;
         m_loader->getQmlEngine()->reload();

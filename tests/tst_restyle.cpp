@@ -16,6 +16,8 @@
 #include <QStyleOption>
 #include <QTabWidget>
 
+#include <memory>
+
 class Own : public WFrame
 {
     Q_OBJECT
@@ -143,7 +145,8 @@ public:
         }
         WApplication::find()->setInvertedColorSets(themeSets(Inverted));
         WApplication::find()->setColorSets(themeSets(0));
-        for (const QString &node : tree.split(QLatin1Char(' ')))
+        const QStringList nodes = tree.split(QLatin1Char(' '));
+        for (const QString &node : nodes)
             add(node);
     }
     ~Stage()
@@ -160,7 +163,8 @@ public:
     // The story: "verb:name=value", and a number for a switch to that theme with a picture.
     void tell(const QString &story)
     {
-        for (const QString &word : story.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        const QStringList words = story.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (const QString &word : words) {
             const QString verb = word.section(QLatin1Char(':'), 0, 0), rest = word.section(QLatin1Char(':'), 1);
             const QString name = rest.section(QLatin1Char('='), 0, 0), value = rest.section(QLatin1Char('='), 1);
             QWidget *widget = at(name);
@@ -281,11 +285,11 @@ private:
     }
     void themeAnd(int number, QWidget *widget, const QString &story)
     {
-        bool isDone = !isLibrary;
+        const auto isDone = std::make_shared<bool>(!isLibrary);
         if (isLibrary) {
             QObject context;
-            QObject::connect(static_cast<WFrame *>(widget), &WFrame::cssChanged, &context, [&isDone, story, this] {
-                if (!std::exchange(isDone, true))
+            QObject::connect(static_cast<WFrame *>(widget), &WFrame::cssChanged, &context, [isDone, story, this] {
+                if (!std::exchange(*isDone, true))
                     tell(story);
             });
             theme(number);
@@ -294,7 +298,7 @@ private:
             tell(story);
             restyle();
         }
-        QVERIFY(isDone);
+        QVERIFY(*isDone);
         for (const char *window : {"w", "v"})
             shot(at(window));
         theme(2);
@@ -368,7 +372,8 @@ void tst_Restyle::compare(const QString &tree, const std::function<void(Stage &)
         if (i > 0) // what does not show proves nothing
             QVERIFY2(literal.pictures.at(i) != literal.pictures.at(i - 1), qPrintable(QString::number(i)));
     }
-    for (const QString &message : log.take()) {
+    const QStringList messages = log.take();
+    for (const QString &message : messages) {
         static const QRegularExpression expected(QStringLiteral("not understood|^This plugin does not support"));
         QVERIFY2(message.contains(expected), qPrintable(message));
     }
@@ -527,17 +532,17 @@ void tst_Restyle::equalSets()
         }
     } counter;
     QCoreApplication::processEvents();
-    int announced = 0;
+    const auto announced = std::make_shared<int>(0);
     for (const char *name : {"a", "b", "c", "d"}) {
         s.at(name)->installEventFilter(&counter);
         if (auto *frame = qobject_cast<WFrame *>(s.at(name)))
-            connect(frame, &WFrame::cssChanged, &counter, [&announced] { ++announced; });
+            connect(frame, &WFrame::cssChanged, &counter, [announced] { ++*announced; });
     }
     s.theme(1);
     WApplication::find()->setInvertedColorSets(themeSets(Inverted + 1)); // nobody's
     QCoreApplication::processEvents();
     QCOMPARE(counter.count, 0);
-    QCOMPARE(announced, 6);
+    QCOMPARE(*announced, 6);
     const RestyleReport last = RestyleReport::last();
     QCOMPARE(last.restyled + last.deferred, 0);
     QCOMPARE(last.unchanged, 3);

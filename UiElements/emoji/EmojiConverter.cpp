@@ -763,10 +763,11 @@ QString EmojiConverter::selectedText(const QTextCursor &selection)
             const int length = std::min(end, fragment.position() + fragment.length()) - first;
             if (length <= 0)
                 continue;
+            const QString shown = fragment.text();
             if (fragment.charFormat().isImageFormat())
                 text += textOfImage(fragment.charFormat().toImageFormat()).repeated(length);
             else
-                text += fragment.text().mid(first - fragment.position(), length);
+                text += shown.midRef(first - fragment.position(), length);
         }
     }
     return text.replace(QChar::LineSeparator, QLatin1Char('\n')).replace(QChar::Nbsp, QLatin1Char(' '));

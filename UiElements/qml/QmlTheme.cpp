@@ -34,7 +34,7 @@ public:
         if (!renderer.isLoaded())
             return {};
         const QString name = id.left(slash);
-        const int designed = qBound(8, name.mid(name.lastIndexOf(QLatin1Char('_')) + 1).toInt(), 256);
+        const int designed = qBound(8, name.midRef(name.lastIndexOf(QLatin1Char('_')) + 1).toInt(), 256);
         *size = requestedSize.isEmpty() ? QSize(designed, designed) : requestedSize;
         return renderer.renderPixmap(*size, 1, QColor(QLatin1Char('#') + id.mid(slash + 1)));
     }
