@@ -82,7 +82,7 @@ Subject emojiText();
 std::vector<Subject> icons(); ///< one for each size and ratio
 Subject labels();
 std::vector<Subject> models();
-Subject qml();
+std::vector<Subject> qml();
 Subject shortcuts();
 Subject startup();
 Subject templates();

@@ -41,6 +41,7 @@ int main(int argc, char **argv)
     subjects.push_back(bench::labels());
     for (const bench::Subject &subject : bench::models())
         subjects.push_back(subject);
-    subjects.push_back(bench::qml());
+    for (const bench::Subject &subject : bench::qml())
+        subjects.push_back(subject);
     return bench::run(subjects, parser.value(rows), parser.isSet(quick)) ? 0 : 1;
 }
