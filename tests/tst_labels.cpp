@@ -684,6 +684,13 @@ void tst_Labels::emojiLineIsAsHighAsText()
     without.resize(with.size());
     const QRect letters(0, 0, without.fontMetrics().horizontalAdvance(QStringLiteral("Hxg")) - 1, with.height());
     QCOMPARE(inkOf(pictureOf(&with).copy(letters)), inkOf(pictureOf(&without).copy(letters)));
+
+    // Without any letter it is whole, too.
+    WEmojiLabel alone(Grin);
+    alone.resize(alone.sizeHint());
+    QCOMPARE(alone.height(), without.height());
+    const QRect emoji(letters.right() + 2, 0, with.width() - letters.right() - 2, with.height());
+    QCOMPARE(inkOf(pictureOf(&alone)).height(), inkOf(pictureOf(&with).copy(emoji)).height());
 }
 
 void tst_Labels::emojiElision_data()
