@@ -8,7 +8,8 @@ class WMoviePlayback;
 
 /// A label that plays an animated image of the host's own, fitted into the label less 5 pixels on each side.
 ///
-/// It plays only where it can be seen: see WMoviePlayback. To a screen reader it is an animation; what it shows has to
+/// It plays only where it can be seen: see WMoviePlayback. Where a window lays out much, give it a fixed size: a QLabel
+/// asks for a new layout with every picture otherwise. To a screen reader it is an animation; what it shows has to
 /// be set as accessible name.
 class UIELEMENTS_EXPORT WGifLabel : public WLabel
 {

@@ -13,8 +13,8 @@ class QTimer;
 
 /// A themeable push button with long press, a badge, elided text and a focus frame of its own.
 ///
-/// Return and Enter operate it like Space: pressed() when the key goes down, clicked() when it comes up. Default and
-/// auto-default buttons leave them to their dialog.
+/// Return and Enter press it: pressed() when the key goes down, clicked(false) when it comes up. A checkable button is
+/// not toggled by that, only by Space. Default and auto-default buttons leave these keys to their dialog.
 ///
 /// While the text is shown elided and no tooltip is set, the tooltip is the full text. Of a text longer than 10,000
 /// characters only the beginning is shown. The focus frame surrounds the
