@@ -7,6 +7,8 @@
 #include <UiElements/theme/WThemeUtils.h>
 #include <UiElements/widgets/WFrame.h>
 
+#include <QToolTip>
+
 #include <cmath>
 #include <limits>
 
@@ -135,6 +137,14 @@ void tst_Application::colorSets()
     // A set that was there is gone: the map is replaced whole.
     WThemeUtils::setAppWColorSets(spelledSets({"b"}));
     QVERIFY(WThemeUtils::getAppWColorSets().count("a") == 0);
+    // Tooltips take what there is.
+    const QPalette before = QToolTip::palette();
+    app()->setColorSets(spelledSets({"tooltip-background", "tooltip-text"}));
+    QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase), app()->getColorSets().at("tooltip-background").normal());
+    QCOMPARE(QToolTip::palette().color(QPalette::ToolTipText), app()->getColorSets().at("tooltip-text").normal());
+    app()->setColorSets(spelledSets({"b"}));
+    QVERIFY(QToolTip::palette() != before);
+    QToolTip::setPalette(before);
     // The registry handed to itself.
     WThemeUtils::setAppWColorSets(WThemeUtils::getAppWColorSets());
     QCOMPARE(int(WThemeUtils::getAppWColorSets().count("b")), 1);

@@ -233,6 +233,7 @@ private Q_SLOTS:
     void rightClick();
     void keys_data();
     void keys();
+    void returnIsReleasedElsewhere();
     void arrowKeys();
     void focusAndHover();
     void toolTipOnKeyboardFocus_data();
@@ -422,6 +423,20 @@ void tst_Buttons::keys()
     QKeyEvent up(QEvent::KeyRelease, key, {}, QString(), autoRepeat);
     QCoreApplication::sendEvent(stage.button, &up);
     QTEST(counts(), "up");
+}
+
+void tst_Buttons::returnIsReleasedElsewhere()
+{
+    Stage stage;
+    QSignalSpy clicked(stage.button, &QAbstractButton::clicked);
+    // It was pressed in a dialog, which closed at that.
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(stage.button, &back);
+    QTest::keyRelease(stage.button, Qt::Key_Return);
+    QCOMPARE(clicked.count(), 0);
+    QCoreApplication::sendEvent(stage.button, &back);
+    QTest::keyClick(stage.button, Qt::Key_Return);
+    QCOMPARE(clicked.count(), 1);
 }
 
 void tst_Buttons::arrowKeys()
@@ -1022,6 +1037,13 @@ void tst_Buttons::underlinePlaces()
 
 void tst_Buttons::underlineRoom()
 {
+    WUnderlineButton named(str("Tom && Jerry"));
+    named.resize(named.sizeHint());
+    QHelpEvent help(QEvent::ToolTip, QPoint(), QPoint());
+    QToolTip::hideText();
+    QCoreApplication::sendEvent(&named, &help);
+    QCOMPARE(QToolTip::text(), QString()); // there is none for a whole text
+
     WUnderlineButton button(str("Messages"));
     QFont large = button.font();
     large.setPixelSize(30);

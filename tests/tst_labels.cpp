@@ -248,6 +248,8 @@ void tst_Labels::reachedByTab()
     QVERIFY(emoji.focusPolicy() & Qt::TabFocus);
     emoji.setTextInteractionFlags(Qt::NoTextInteraction);
     QVERIFY(!(emoji.focusPolicy() & Qt::TabFocus));
+    emoji.setTextInteractionFlags(Qt::TextSelectableByKeyboard);
+    QVERIFY(emoji.focusPolicy() & Qt::TabFocus);
 
     // The focus shows.
     QWidget window;
@@ -373,10 +375,18 @@ void tst_Labels::linkColors()
     plain.setTextFormat(Qt::PlainText);
     QCOMPARE(plain.QLabel::text(), link);
 
-    WLabel painted;
-    painted.setTextFormat(Qt::RichText);
-    painted.setText(QStringLiteral("<a href='x'>mmmmm</a>"));
-    QVERIFY(has(pictureOf(&painted), QColor(0, 0, 9))); // the underline
+    // The underlines; where the text goes to Qt as it is, too.
+    for (const Qt::TextFormat format : {Qt::RichText, Qt::AutoText}) {
+        WLabel painted;
+        painted.setCSS(QStringLiteral("color: #123456;"));
+        painted.setTextFormat(format);
+        painted.setText(QStringLiteral("<a href='x'>mmmmm</a>"));
+        painted.show();
+        QVERIFY(has(pictureOf(&painted), QColor(0, 0, 9)));
+        setSets(QColor(0, 9, 9));
+        QVERIFY(has(pictureOf(&painted), QColor(0, 9, 9)));
+        setSets(QColor(0, 0, 9));
+    }
 }
 
 void tst_Labels::linksOpenNothing()
@@ -443,6 +453,14 @@ void tst_Labels::filesAreNotRead()
     withIcon.setText(text.arg(file));
     withIcon.resize(100, 100);
     QVERIFY(!has(pictureOf(&withIcon), red));
+
+    // What is left follows the font.
+    const int before = label.sizeHint().height();
+    QFont larger = label.font();
+    larger.setPixelSize(60);
+    label.setFont(larger);
+    if (format != Qt::MarkdownText && !text.contains(QStringLiteral("table")) && text.contains(QStringLiteral("words")))
+        QVERIFY(label.sizeHint().height() > before + 20);
 
     label.setOutsideImagesAllowed(true);
     QCOMPARE(has(pictureOf(&label), red), isReadWhenAllowed);

@@ -38,6 +38,7 @@ private Q_SLOTS:
     void places();
     void lineOfText_data();
     void lineOfText();
+    void linesOfText();
     void elidedText_data();
     void elidedText();
     void badgeDoesNotCoverText();
@@ -385,6 +386,18 @@ void tst_SvgButtons::lineOfText()
         QCOMPARE(found.top(), expected.top());
         QCOMPARE(found.bottom(), expected.bottom());
     }
+}
+
+void tst_SvgButtons::linesOfText()
+{
+    const auto inked = [](const char *text) {
+        WSvgPushButton button(QString::fromLatin1(text));
+        setLook(&button, QSize(120, 60));
+        return textOf(shot(&button));
+    };
+    const QRect first = inked("first"), both = inked("first\nsecond");
+    QVERIFY(both.height() > first.height() + 8);
+    QVERIFY(both.width() < first.width() + inked("second").width());
 }
 
 void tst_SvgButtons::elidedText_data()

@@ -9,6 +9,7 @@
 #include <UiElements/theme/WThemeUtils.h>
 
 #include <QDebug>
+#include <QToolTip>
 
 WApplication::WApplication(int &argc, char **argv)
     : IWApplication(argc, argv)
@@ -23,9 +24,27 @@ WApplication::WApplication(int &argc, char **argv)
     WFont font(WFont::Default, false);
     font.setFamily(QStringLiteral("Segoe UI"));
     setFont(font);
+    connect(this, &WApplication::colorSetsChanged, this, &WApplication::colorToolTips);
 }
 
 WApplication::~WApplication() = default;
+
+// They are windows of their own, which no template reaches.
+void WApplication::colorToolTips()
+{
+    const auto color = [this](const char *name) {
+        const auto found = getColorSets().find(name);
+        return found == getColorSets().end() ? QColor() : found->second.normal();
+    };
+    const QColor background = color("tooltip-background");
+    const QColor text = color("tooltip-text");
+    if (!background.isValid() || !text.isValid())
+        return;
+    QPalette colors = QToolTip::palette();
+    colors.setColor(QPalette::ToolTipBase, background);
+    colors.setColor(QPalette::ToolTipText, text);
+    QToolTip::setPalette(colors);
+}
 
 WApplication *WApplication::find()
 {

@@ -15,9 +15,11 @@ class WGlobalSignalListener;
 
 /// The application object of a host, constructed in place of a QApplication and before any element.
 ///
-/// It holds the theme, the font scale and the buses. The host reads its color and theme files with WThemeUtils and
-/// hands over the sets with setColorSets() and setInvertedColorSets(). Each setter emits its signal only when the
-/// value changes, except where it says otherwise.
+/// It holds the theme, the font scale and the buses. A WThemeLoader reads color and theme files and hands their sets
+/// over; a host without one reads them with WThemeUtils and calls setColorSets() and setInvertedColorSets(). Each
+/// setter emits its signal only when the value changes, except where it says otherwise.
+///
+/// Tooltips take the colors of the sets "tooltip-background" and "tooltip-text", where a theme has them.
 class UIELEMENTS_EXPORT WApplication : public IWApplication
 {
     Q_OBJECT
@@ -92,6 +94,8 @@ Q_SIGNALS:
     void publishingInfoChanged();
 
 private:
+    void colorToolTips();
+
     QString m_themeName;
     QString m_logoSvgPath;
     QString m_logoPngPath;

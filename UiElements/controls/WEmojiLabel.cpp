@@ -613,7 +613,7 @@ void WEmojiLabel::paintEvent(QPaintEvent *event)
     m_document->setDimmed(!isEnabled());
     m_document->documentLayout()->draw(&painter, context);
     painter.restore();
-    if (hasFocus() && isClickable())
+    if (showsFocus())
         drawFocus(&painter);
 }
 

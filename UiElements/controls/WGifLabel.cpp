@@ -43,7 +43,8 @@ void WGifLabel::setGifPath(const QString &path)
 
 void WGifLabel::startPlaying()
 {
-    m_playback->play();
+    if (!m_gifPath.isEmpty())
+        m_playback->play();
 }
 
 void WGifLabel::stopPlaying()

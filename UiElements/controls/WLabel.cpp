@@ -91,7 +91,7 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        state.readOnly = true;
+        state.readOnly = !label()->isClickable();
         state.selectableText = label()->isSelectable();
         return state;
     }
@@ -357,6 +357,23 @@ void WLabel::showText()
     m_elided.width = -1;
     QLabel::setText(m_shown);
     placeText();
+    colorLinks();
+}
+
+// A text that is found to be markup goes to QLabel as it is; its document takes colors from a sheet of its own.
+bool WLabel::hasBareLinks() const
+{
+    return textFormat() == Qt::AutoText && !isPlain() && m_shown.contains(QLatin1String("<a"), Qt::CaseInsensitive);
+}
+
+void WLabel::colorLinks()
+{
+    auto *document = hasBareLinks() ? findChild<QTextDocument *>() : nullptr;
+    if (!document)
+        return;
+    m_linkColors = setOf("button-hyperlink-text", this);
+    document->setDefaultStyleSheet(
+        QStringLiteral("a{color:%1}").arg(colorName(m_linkColors.normal(), palette().color(QPalette::Link))));
 }
 
 QString WLabel::displayText() const
@@ -391,6 +408,9 @@ QString WLabel::safeText(const QString &text) const
     // Qt writes the addresses of backgrounds that it could not read, too. In what it writes, a quote in a text or in
     // another attribute is escaped.
     QString html = document.toHtml();
+    // It writes its own font, too, and the text is to follow that of the label.
+    static const QRegularExpression body(QStringLiteral("<body style=\"[^\"]*\">"));
+    html.replace(body, QStringLiteral("<body>"));
     static const QRegularExpression background(QStringLiteral(" background=\"([^\"]*)\""));
     for (auto match = background.match(html); match.hasMatch();
          match = background.match(html, match.capturedStart() + 1)) {
@@ -461,7 +481,12 @@ void WLabel::onThemeChanged()
 {
     const QPointer<WLabel> alive(this);
     Themed::onThemeChanged();
-    if (alive && textFormat() == Qt::RichText && !m_text.isEmpty())
+    if (!alive || m_text.isEmpty())
+        return;
+    const bool isBare = hasBareLinks();
+    if (isBare)
+        QLabel::clear(); // so that it lays out the same text once more
+    if (isBare || textFormat() == Qt::RichText)
         showText();
 }
 
@@ -616,7 +641,7 @@ void WLabel::paintEvent(QPaintEvent *event)
         drawFrame(&painter);
         drawLines(&painter, textRect());
     }
-    if (hasFocus() && isClickable()) {
+    if (showsFocus()) {
         QPainter painter(this);
         drawFocus(&painter);
     }
@@ -637,6 +662,14 @@ void WLabel::drawLines(QPainter *painter, const QRect &rect) const
         | (buddy() ? Qt::TextShowMnemonic : 0);
     // Qt mirrors the alignment of right-to-left text once more.
     style()->drawItemText(painter, rect, flags | Qt::AlignAbsolute, colors, isEnabled(), text, foregroundRole());
+}
+
+bool WLabel::showsFocus() const
+{
+    // Where a text is only selected in, a click needs no frame.
+    const bool byKeyboard =
+        textInteractionFlags() & Qt::TextSelectableByKeyboard && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    return hasFocus() && (byKeyboard || isClickable());
 }
 
 void WLabel::drawFocus(QPainter *painter)
@@ -763,7 +796,7 @@ void WLabel::disconnectNotify(const QMetaMethod &signal)
 
 void WLabel::updateFocusPolicy()
 {
-    const bool isWanted = isClickable();
+    const bool isWanted = isClickable() || textInteractionFlags() & Qt::TextSelectableByKeyboard;
     if (isWanted && !(focusPolicy() & Qt::TabFocus)) {
         m_gaveTabFocus = true;
         setFocusPolicy(Qt::FocusPolicy(focusPolicy() | Qt::TabFocus));

@@ -149,10 +149,13 @@ protected:
     /// The color of the template's text set for the state that shows; without a set, that of the palette.
     QColor textColor() const;
     virtual QStyle::State textState() const;
+    bool showsFocus() const;
     void drawFocus(QPainter *painter);
     /// A plain text, elided and broken into lines.
     void drawLines(QPainter *painter, const QRect &rect) const;
     void showText();
+    bool hasBareLinks() const;
+    void colorLinks();
     /// What QLabel is to show for the text that was set.
     virtual QString displayText() const;
 

@@ -146,8 +146,9 @@ void ButtonAccessible::doAction(const QString &name)
     if (!button()->isEnabled())
         return;
     if (name == pressAction() || name == showMenuAction()) {
+        // Later: the menu runs an event loop of its own, and who asked for it waits for the answer.
         if (button()->menu())
-            button()->showMenu();
+            QMetaObject::invokeMethod(button(), &QPushButton::showMenu, Qt::QueuedConnection);
         else
             button()->animateClick();
     } else if (name == toggleAction() && button()->isCheckable()) {
@@ -371,6 +372,9 @@ void WPushButton::readColors() const
     const auto type = WThemeUtils::getThemeTypeOfWidget(this);
     const bool isKnown = !own.empty() || WThemeUtils::getWColorSetsByThemeType(type).count(name) > 0;
     m_focusColor = isKnown ? WThemeUtils::getColorSet(name, type).focused() : QColor();
+    const WColorSets &sets = WThemeUtils::getWColorSetsByThemeType(type);
+    const auto page = sets.find("background-primary");
+    m_pageColor = page == sets.end() ? QColor() : page->second.normal();
 }
 
 QRect WPushButton::badgeRect() const
@@ -435,9 +439,10 @@ void WPushButton::paintFocus(QStylePainter *painter, const QStyleOptionButton &o
     painter->setClipPath(ring, Qt::IntersectClip);
     painter->drawPrimitive(QStyle::PE_FrameFocusRect, frame);
     painter->restore();
-    // Some styles draw it so faint that it is lost where no border of the button tells of the focus, too.
-    if (isFlat() || !m_focusRectColorSet.isEmpty())
-        DrawUtils::drawFocusRect(painter, frame.rect, m_focusColor, radius);
+    // Styles draw it faint, and the button may have the color of the frame: a line of the page's color is within it.
+    DrawUtils::drawFocusRect(painter, frame.rect, m_focusColor, radius);
+    DrawUtils::drawFocusRect(painter, QRectF(frame.rect).adjusted(width, width, -width, -width), m_pageColor,
+                             std::max(0.0, radius - width), 1);
 }
 
 void WPushButton::paintBadge(QStylePainter *painter, const QStyleOptionButton &)
@@ -458,8 +463,8 @@ bool WPushButton::event(QEvent *event)
             followCustomFocusRect();
         break;
     case QEvent::ToolTip:
-        if (toolTip().isEmpty()) {
-            const QString full = elidedFullText();
+        if (toolTip().isEmpty() || ControlText::isLong(toolTip())) {
+            const QString full = toolTip().isEmpty() ? elidedFullText() : toolTip();
             if (full.isEmpty())
                 break;
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), ControlText::toolTip(full), this);
@@ -536,8 +541,11 @@ bool WPushButton::takesReturn(const QKeyEvent *event) const
 
 void WPushButton::keyPressEvent(QKeyEvent *event)
 {
+    m_focusCameWithWindow = false;
     if (takesReturn(event)) {
         event->accept();
+        if (menu())
+            setDown(true); // QPushButton opens it for a button that is
         Q_EMIT pressed();
         return;
     }
@@ -560,7 +568,9 @@ void WPushButton::keyReleaseEvent(QKeyEvent *event)
 {
     if (takesReturn(event)) {
         event->accept();
-        Q_EMIT clicked(false);
+        // What closes at the press of the key leaves its release to the button behind it.
+        if (!std::exchange(m_focusCameWithWindow, false))
+            Q_EMIT clicked(false);
         return;
     }
     Themed::keyReleaseEvent(event);
@@ -569,6 +579,7 @@ void WPushButton::keyReleaseEvent(QKeyEvent *event)
 void WPushButton::focusInEvent(QFocusEvent *event)
 {
     const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    m_focusCameWithWindow = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
     Themed::focusInEvent(event);
     if (byTab && m_toolTipOnKeyboardFocus) {
         const QPoint below(0, height());

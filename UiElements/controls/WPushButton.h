@@ -51,7 +51,8 @@ public:
     QString focusRectColorSet() const { return m_focusRectColorSet; }
     void setFocusRectColorSet(const QString &name);
 
-    /// Holding the mouse button down for half a second emits longPressed(); then no click follows.
+    /// Holding the mouse button down for half a second emits longPressed(); then neither released() nor clicked()
+    /// follows.
     bool longPressEnabled() const { return m_longPressEnabled; }
     void setLongPressEnabled(bool enabled);
 
@@ -169,9 +170,11 @@ private:
     bool m_arrowKeysSuppressed = false;
     bool m_toolTipOnKeyboardFocus = false;
     bool m_longPressDone = false;
+    bool m_focusCameWithWindow = false; // and no key was pressed since
     bool m_nameChecked = false;
     mutable bool m_colorsAreRead = false;
     mutable QColor m_badgeColor;
     mutable QColor m_focusColor;
+    mutable QColor m_pageColor;
     mutable ShownText m_shownText;
 };

@@ -397,6 +397,6 @@ void WSvgLabel::paintEvent(QPaintEvent *event)
         }
         drawLines(&painter, layout.text);
     }
-    if (hasFocus() && isClickable())
+    if (showsFocus())
         drawFocus(&painter);
 }

@@ -528,13 +528,15 @@ void WSvgPushButton::prepareText(Arrangement *now) const
         now->markedText = shown;
         return;
     }
-    const QString plain = ControlText::withoutMnemonics(shown);
+    QString plain = ControlText::withoutMnemonics(shown);
     QTextOption option;
     option.setTextDirection(directionOf(plain));
     option.setWrapMode(QTextOption::NoWrap);
     const bool isOneLine = !plain.contains(QLatin1Char('\n'));
-    if (!isOneLine)
+    if (!isOneLine) {
         option.setAlignment(Qt::AlignHCenter);
+        plain.replace(QLatin1Char('\n'), QChar::LineSeparator); // which is what a static text breaks at
+    }
     now->staticText.setTextFormat(Qt::PlainText);
     now->staticText.setTextOption(option);
     now->staticText.setText(plain);

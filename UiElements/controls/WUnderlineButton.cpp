@@ -206,7 +206,7 @@ int WUnderlineButton::trailingRoom() const
 QSize WUnderlineButton::sizeHint() const
 {
     ensurePolished();
-    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, ControlText::beginning(plainText()));
+    const QSize text = fontMetrics().size(Qt::TextShowMnemonic, ControlText::beginning(this->text()));
     const int icons =
         std::max(m_leftIcon.isNull() ? 0 : leftIconSize, m_anchorIcon ? m_anchorIcon->getIconSize().height() : 0);
     // The contents are in the middle of the height, so that the room below them is needed above, too.
@@ -307,8 +307,10 @@ void WUnderlineButton::paintText(QPainter *painter, const QStyleOptionButton &op
     const int shownMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this)
         ? int(Qt::TextShowMnemonic)
         : int(Qt::TextHideMnemonic);
+    // The ellipsis stays at the end of a text that goes the other way than the layout.
+    const int direction = option.text.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
     painter->drawText(QStyle::visualRect(option.direction, option.rect, room),
-                      Qt::AlignCenter | Qt::TextSingleLine | shownMnemonic, option.text);
+                      Qt::AlignCenter | Qt::TextSingleLine | shownMnemonic | direction, option.text);
 }
 
 void WUnderlineButton::paintFocus(QStylePainter *painter, const QStyleOptionButton &option)

@@ -177,9 +177,9 @@ void DrawUtils::drawSvgIconText(QPainter *painter, const QRect &rect, const Icon
     painter->restore();
 }
 
-void DrawUtils::drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius)
+void DrawUtils::drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius,
+                              double width)
 {
-    constexpr double width = 2;
     if (!painter || !color.isValid() || rect.width() <= width || rect.height() <= width)
         return;
     painter->save();

@@ -78,6 +78,7 @@ public:
     /// fit is elided, rich text is cut.
     static void drawSvgIconText(QPainter *painter, const QRect &rect, const IconText &content, QStyle::State state);
 
-    /// A frame within the rectangle, two pixels wide, with rounded corners.
-    static void drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius);
+    /// A frame within the rectangle, as wide as is said, with rounded corners.
+    static void drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius,
+                              double width = 2);
 };
