@@ -1,48 +1,33 @@
 #include "GalleryThemes.h"
 
-#include <UiElements/app/WApplication.h>
-#include <UiElements/theme/WThemeUtils.h>
-
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QJsonArray>
+#include <QDir>
 
 bool GalleryThemes::load(const QString &folder)
 {
-    m_folder = folder;
-    m_palette = WThemeUtils::parseWColorsFromJson(folder + QLatin1String("/colors.json"));
-    const QJsonObject root = WThemeUtils::readJsonObject(folder + QLatin1String("/themes/themes.json"));
-    const QJsonArray families = root.value(QLatin1String("families")).toArray();
-    QStringList files;
-    for (const QJsonValue &value : families) {
-        const QJsonObject family = value.toObject();
-        const QString name = family.value(QLatin1String("name")).toString();
-        m_files.insert(name, family);
-        m_families.append({name, family.value(QLatin1String("title")).toString()});
+    m_folder = QDir(folder).absolutePath();
+    if (!m_loader.load(m_folder))
+        return false;
+    m_all.clear();
+    QStringList names;
+    const QVector<Family> all = families();
+    for (const Family &family : all) {
         for (const bool highContrast : {false, true}) {
             for (const bool dark : {false, true}) {
-                const Choice choice {name, dark, highContrast};
-                if (fileOf(choice).isEmpty() || files.contains(fileOf(choice)))
+                const Choice choice {family.name, dark, highContrast};
+                if (names.contains(nameOf(choice)))
                     continue;
-                files.append(fileOf(choice));
-                m_all.append(choice);
+                names << nameOf(choice);
+                m_all << choice;
             }
         }
     }
-    return !m_palette.empty() && !m_all.isEmpty();
-}
-
-QString GalleryThemes::fileOf(const Choice &choice) const
-{
-    const QLatin1String variant = choice.highContrast
-        ? (choice.dark ? QLatin1String("highContrastDark") : QLatin1String("highContrast"))
-        : (choice.dark ? QLatin1String("dark") : QLatin1String("light"));
-    return m_files.value(choice.family).toObject().value(variant).toString();
+    return true;
 }
 
 QString GalleryThemes::nameOf(const Choice &choice) const
 {
-    return QFileInfo(fileOf(choice)).baseName();
+    return m_loader.themeName(choice.family, choice.dark, choice.highContrast);
 }
 
 QString GalleryThemes::titleOf(const Choice &choice) const
@@ -51,41 +36,27 @@ QString GalleryThemes::titleOf(const Choice &choice) const
                                            : QCoreApplication::translate("GalleryThemes", "light");
     if (choice.highContrast)
         return QCoreApplication::translate("GalleryThemes", "High contrast %1").arg(brightness);
-    for (const Family &family : m_families) {
+    const QVector<Family> all = families();
+    for (const Family &family : all) {
         if (family.name == choice.family)
             return family.title + QLatin1Char(' ') + brightness;
     }
     return QString();
 }
 
-const WColorSets &GalleryThemes::setsOf(const Choice &choice)
+GalleryThemes::Choice GalleryThemes::current() const
 {
-    const QString file = fileOf(choice);
-    if (!m_sets.contains(file)) {
-        const QString path = m_folder + QLatin1String("/themes/") + file;
-        m_sets.insert(file, WThemeUtils::parseWColorSetsFromJson(path, m_palette));
-    }
-    return *m_sets.constFind(file);
+    return {m_loader.family(), m_loader.isDark(), m_loader.isHighContrast()};
 }
 
-// Each of the four calls may announce new colors, and elements take them each time. Only the last needs to be heard:
-// the others are made while the application object is silent about them.
 void GalleryThemes::apply(const Choice &choice)
 {
-    WApplication *app = WApplication::find();
-    if (!app)
-        return;
-    m_current = choice;
-    Choice opposite = choice;
-    opposite.dark = !choice.dark;
-    const WColorSets sets = setsOf(choice);
-    const WColorSets oppositeSets = setsOf(opposite);
-    app->setTheme(nameOf(choice));
-    {
-        const QSignalBlocker silent(app);
-        app->setIsDarkTheme(choice.dark);
-        app->setIsHighContrastTheme(choice.highContrast);
-        app->setInvertedColorSets(oppositeSets);
-    }
-    app->setColorSets(sets);
+    m_loader.setTheme(choice.family, choice.dark ? WThemeLoader::ColorScheme::Dark : WThemeLoader::ColorScheme::Light,
+                      choice.highContrast ? WThemeLoader::Contrast::High : WThemeLoader::Contrast::Normal);
+}
+
+QString GalleryThemes::fault() const
+{
+    QString fault = m_loader.lastError();
+    return fault.replace(m_folder + QLatin1Char('/'), QString());
 }

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <UiElements/theme/WColorSet.h>
+#include <UiElements/theme/WThemeLoader.h>
 
-#include <QHash>
-#include <QJsonObject>
 #include <QString>
 #include <QVector>
 
@@ -11,11 +9,7 @@
 class GalleryThemes
 {
 public:
-    struct Family
-    {
-        QString name;
-        QString title;
-    };
+    using Family = WThemeLoader::Family;
 
     /// A theme of a family.
     struct Choice
@@ -23,36 +17,26 @@ public:
         QString family;
         bool dark = false;
         bool highContrast = false;
-
-        bool operator==(const Choice &o) const
-        {
-            return family == o.family && dark == o.dark && highContrast == o.highContrast;
-        }
     };
 
     /// False, with a warning in the log, when the folder has no themes.
     bool load(const QString &folder);
+    WThemeLoader *loader() { return &m_loader; }
 
-    const QVector<Family> &families() const { return m_families; }
+    QVector<Family> families() const { return m_loader.families(); }
     /// Every theme once, also where families share one.
     const QVector<Choice> &allThemes() const { return m_all; }
     /// The name of the theme, as in its file: "default", "meridiaDark".
     QString nameOf(const Choice &choice) const;
     QString titleOf(const Choice &choice) const;
 
-    Choice current() const { return m_current; }
-    /// Hands the color sets of the theme and of its opposite over to the application object.
+    Choice current() const;
     void apply(const Choice &choice);
+    /// What the last reading of the files failed for, with the file below the folder; empty when it did not.
+    QString fault() const;
 
 private:
-    const WColorSets &setsOf(const Choice &choice);
-    QString fileOf(const Choice &choice) const;
-
+    WThemeLoader m_loader;
     QString m_folder;
-    QJsonObject m_files; // families by name
-    WPalette m_palette;
-    QVector<Family> m_families;
     QVector<Choice> m_all;
-    QHash<QString, WColorSets> m_sets; // by file
-    Choice m_current;
 };

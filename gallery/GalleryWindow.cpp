@@ -55,6 +55,7 @@ GalleryWindow::GalleryWindow(GalleryThemes *themes, QWidget *parent)
     statusBar()->addWidget(m_status, 1);
 
     connect(m_bar, &GalleryBar::themeRequested, this, &GalleryWindow::setTheme);
+    connect(themes->loader(), &WThemeLoader::lastErrorChanged, this, [this] { showStatus(QString()); });
     connect(m_bar, &GalleryBar::themeTypeRequested, this, &GalleryWindow::setWindowThemeType);
     connect(m_bar, &GalleryBar::directionRequested, this, &GalleryWindow::setDirection);
     connect(m_bar, &GalleryBar::fontScaleRequested, this, &GalleryWindow::setFontScale);
@@ -157,7 +158,7 @@ void GalleryWindow::fitToPage()
 void GalleryWindow::setTheme(const GalleryThemes::Choice &choice)
 {
     timed([this, &choice] { m_themes->apply(choice); });
-    m_bar->show(choice);
+    m_bar->show(m_themes->current());
 }
 
 void GalleryWindow::setWindowThemeType(const QString &themeType)
@@ -204,5 +205,7 @@ void GalleryWindow::showStatus(const QString &text)
         parts << tr("this window %1").arg(themeType());
     if (!text.isEmpty())
         parts << text;
+    if (!m_themes->fault().isEmpty())
+        parts << m_themes->fault();
     m_status->setText(parts.join(QStringLiteral("   ·   ")));
 }

@@ -122,6 +122,7 @@ int main(int argc, char **argv)
     if (parser.isSet(check))
         return Pictures::check(&themes, options);
 
+    themes.loader()->setWatching(true);
     GalleryWindow window(&themes);
     if (!options.pages.isEmpty())
         window.showPage(options.pages.first());

@@ -84,10 +84,14 @@ void IWApplication::setColorTokens(const WColorTokens &tokens)
 
 void IWApplication::setAnimationsDisabled(bool disabled)
 {
-    if (d->animationsDisabled == disabled)
-        return;
-    d->animationsDisabled = disabled;
-    Q_EMIT animationsDisabledChanged(disabled);
+    d->hostSetAnimations = true;
+    IWApplicationPrivate::changeAnimationsDisabled(this, disabled);
+}
+
+void IWApplicationPrivate::changeAnimationsDisabled(IWApplication *app, bool disabled)
+{
+    if (std::exchange(app->d->animationsDisabled, disabled) != disabled)
+        Q_EMIT app->animationsDisabledChanged(disabled);
 }
 
 bool IWApplication::changeIsDarkTheme(bool isDarkTheme)

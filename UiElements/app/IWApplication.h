@@ -41,6 +41,7 @@ public:
     void setInvertedColorSets(const WColorSets &sets);
     /// Replaces the tokens whole, without a signal.
     void setColorTokens(const WColorTokens &tokens);
+    /// From then on a WThemeLoader leaves it as it is, until its motion is set.
     void setAnimationsDisabled(bool disabled);
 
 Q_SIGNALS:

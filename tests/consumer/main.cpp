@@ -1,5 +1,5 @@
 #include <UiElements/app/WApplication.h>
-#include <UiElements/theme/WThemeUtils.h>
+#include <UiElements/theme/WThemeLoader.h>
 #include <UiElements/widgets/WFrame.h>
 #include <UiElements/widgets/WRadioButton.h>
 #include <UiElements/widgets/WWidget.h>
@@ -11,19 +11,9 @@
 int main(int argc, char **argv)
 {
     WApplication app(argc, argv);
-    const QString folder = QStringLiteral(UIELEMENTS_CONFIG_DIR);
-    const WPalette palette = WThemeUtils::parseWColorsFromJson(folder + QStringLiteral("/colors.json"));
-    const auto read = [&](const QString &name) {
-        return WThemeUtils::parseWColorSetsFromJson(folder + QStringLiteral("/themes/") + name, palette);
-    };
-    const WColorSets light = read(QStringLiteral("default.json"));
-    const WColorSets dark = read(QStringLiteral("defaultDark.json"));
-    const auto show = [&](bool isDark) {
-        app.setColorSets(isDark ? dark : light);
-        app.setInvertedColorSets(isDark ? light : dark);
-        app.setIsDarkTheme(isDark);
-    };
-    show(false);
+    WThemeLoader theme;
+    if (!theme.load(QStringLiteral(UIELEMENTS_CONFIG_DIR)))
+        return 1;
 
     WWidget window;
     window.setCSS(QStringLiteral("$backgroundColors: background-primary;"));
@@ -36,7 +26,9 @@ int main(int argc, char **argv)
                                       "  border: 2px solid $(control-indicator-border.normal); }"
                                       "::indicator:checked { background: $(control-indicator-border.checked); }"));
     lightButton.setChecked(true);
-    QObject::connect(&darkButton, &QRadioButton::toggled, &app, show);
+    QObject::connect(&darkButton, &QRadioButton::toggled, &theme, [&theme](bool isDark) {
+        theme.setColorScheme(isDark ? WThemeLoader::ColorScheme::Dark : WThemeLoader::ColorScheme::Light);
+    });
 
     QVBoxLayout inFrame(&frame), inWindow(&window);
     inFrame.addWidget(&lightButton);
