@@ -12,7 +12,7 @@ FocusScope {
 
     property QtObject controller: null
     readonly property var content: controller && controller.model ? controller.model : ({})
-    readonly property string themeType: controller ? controller.themeType : "global"
+    readonly property string themeType: told("themeType", "global")
 
     signal accepted()
     signal rejected()
@@ -22,10 +22,16 @@ FocusScope {
     readonly property real textWidth: Math.min(maximumTextWidth,
                                                Math.max(title.implicitWidth, message.implicitWidth, 48))
     // The balloon keeps a strip for the arrow on its side.
-    readonly property int anchor: controller ? controller.arrowAnchor : WBalloon.None
+    readonly property int anchor: told("arrowAnchor", WBalloon.None)
     readonly property int strip: anchor === WBalloon.None ? 0 : balloon.arrowSize
     readonly property int before: padding + (anchor === WBalloon.Left ? strip : 0)
     readonly property int above: padding + (anchor === WBalloon.Top ? strip : 0)
+
+    // What a controller of another kind does not know is as it is without one.
+    function told(name, otherwise) {
+        const value = controller ? controller[name] : undefined
+        return value === undefined ? otherwise : value
+    }
 
     implicitWidth: Math.ceil(column.width) + 2 * padding
                    + (anchor === WBalloon.Left || anchor === WBalloon.Right ? strip : 0)
@@ -53,9 +59,9 @@ FocusScope {
         radius: 8
         borderWidth: 1
         arrowAnchor: root.anchor
-        arrowAlignment: root.controller ? root.controller.arrowAlignment : WBalloon.CenterAlignment
-        arrowOffset: root.controller ? root.controller.arrowOffset : 0
-        arrowSize: root.controller ? root.controller.arrowSize : 10
+        arrowAlignment: root.told("arrowAlignment", WBalloon.CenterAlignment)
+        arrowOffset: root.told("arrowOffset", 0)
+        arrowSize: root.told("arrowSize", 10)
         backgroundColor: Theme.colorSet("menu-background", root.themeType).normal
         borderColor: Theme.colorSet("menu-border", root.themeType).normal
     }

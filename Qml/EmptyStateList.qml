@@ -49,7 +49,7 @@ FocusScope {
         readonly property var focusOutline: Theme.colorSet("outline-focus", root.themeType)
         readonly property var secondaryText: Theme.colorSet("text-secondary", root.themeType)
 
-        anchors { fill: parent; margins: 4 }
+        anchors { fill: parent; margins: 4; rightMargin: scrollBar.visible ? 10 : 4 }
         clip: true
         focus: true
         activeFocusOnTab: true
@@ -141,6 +141,20 @@ FocusScope {
                 }
             }
         }
+    }
+
+    // Which part of the rows is seen.
+    Rectangle {
+        id: scrollBar
+        readonly property var seen: view.visibleArea
+        readonly property real progress: seen.yPosition / Math.max(0.001, 1 - seen.heightRatio)
+        anchors { right: parent.right; rightMargin: 3 }
+        y: view.y + Math.min(1, progress) * (view.height - height)
+        width: 4
+        height: Math.max(16, seen.heightRatio * view.height)
+        radius: 2
+        visible: seen.heightRatio < 1
+        color: Theme.colorSet("scrollbar-handle-background", root.themeType).normal
     }
 
     Column {

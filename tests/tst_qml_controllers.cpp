@@ -128,11 +128,15 @@ private Q_SLOTS:
     void typesInQml_data();
     void typesInQml();
     void themeReachesBindings();
+    void wrongInput();
     void pages_data();
     void pages();
     void dialogKeys_data();
     void dialogKeys();
     void dialogIsAskedAgain();
+    void dialogTitle();
+    void openedAgainWhenAccepted_data();
+    void openedAgainWhenAccepted();
     void listKeys();
     void listShowsItsEmptyState();
     void countIsTold();
@@ -484,6 +488,47 @@ Text {
     app->setInvertedColorSets({});
 }
 
+void tst_QmlControllers::wrongInput()
+{
+    PopupContext popup(m_factory, QStringLiteral("BalloonPopup.qml"));
+    popup.setArrow(WQmlBalloon::Left, WQmlBalloon::TopAlignment, 3);
+    WarningLog log;
+    popup.setArrow(WQmlBalloon::ArrowAnchor(5));
+    popup.setArrow(WQmlBalloon::Top, WQmlBalloon::ArrowAlignment(-1));
+    popup.setArrow(WQmlBalloon::Top, WQmlBalloon::LeftAlignment, INT_MIN);
+    const QString arrow = QStringLiteral("PopupContext::setArrow - Invalid arrow ");
+    QCOMPARE(log.take(),
+             QStringList({arrow + QLatin1String("5 1 0"), arrow + QLatin1String("1 -1 0"),
+                          arrow + QLatin1String("1 0 -2147483648")}));
+    QCOMPARE(popup.arrowAnchor(), WQmlBalloon::Left);
+    QCOMPARE(popup.arrowAlignment(), WQmlBalloon::TopAlignment);
+    QCOMPARE(popup.arrowOffset(), 3);
+
+    QQmlComponent component(m_loader.getQmlEngine());
+    component.setData(R"(
+import QtQuick 2.15
+import UiElements 1.0
+Item {
+    property var colors: [Theme.colorSet("text-primary").normal, Theme.colorSet("text-primary", "global").normal,
+        Theme.colorSet("text-primary", "pink").normal, Theme.colorSet("text-primary", "pink").normal]
+    property var icons: [Theme.icon("chat_24", "red"), Theme.icon("chat_24", Theme.colorSet("none").normal),
+        Theme.icon("none_24", "red")]
+})",
+                      QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    QVERIFY2(object, qPrintable(component.errorString()));
+    QCOMPARE(log.take(),
+             QStringList({QStringLiteral("Theme.colorSet - Unknown theme type, taken as global: \"pink\""),
+                          QStringLiteral("ColorSet name does not exist!  \"none\""),
+                          QStringLiteral("Theme.icon - There is no icon \"none_24\"")}));
+    const QVariantList colors = object->property("colors").toList();
+    QVERIFY(colors.at(0).value<QColor>().isValid());
+    QCOMPARE(colors.count(colors.at(0)), 4);
+    const QVariantList icons = object->property("icons").toList();
+    QCOMPARE(icons.at(0).toUrl(), QUrl(QStringLiteral("image://uielements-icon/chat_24/ffff0000")));
+    QVERIFY(icons.at(1).toUrl().isEmpty() && icons.at(2).toUrl().isEmpty());
+}
+
 // --- the pages
 
 void tst_QmlControllers::pages_data()
@@ -497,6 +542,9 @@ void tst_QmlControllers::pages_data()
         setUp(&rows, 5);
     QTest::newRow("balloon") << QStringLiteral("BalloonPopup.qml") << true << QVariant(popupTexts())
                              << QByteArray("Notification(Mentions) Button(Got it)");
+    QTest::newRow("balloon, another controller")
+        << QStringLiteral("BalloonPopup.qml") << false << QVariant(popupTexts())
+        << QByteArray("Notification(Mentions) Button(Got it)");
     QTest::newRow("dialog") << QStringLiteral("MessageDialog.qml") << false << QVariant(dialogTexts())
                             << QByteArray("Dialog(Leave?) Heading(Leave?) StaticText(The others stay.) Button(Stay) "
                                           "Button(Leave)");
@@ -547,6 +595,7 @@ void tst_QmlControllers::pages()
     WQmlDialogController dialogController;
     QObject &controller = popup ? static_cast<QObject &>(popupController) : dialogController;
     QWidget window;
+    window.setPalette(Qt::magenta);
     const QPointer<WQuickWidget> page = m_factory.createQmlWidget(source, &window, &controller);
     QVERIFY2(page && page->rootObject(), qPrintable(log.take().join(QLatin1Char('\n'))));
     window.show();
@@ -567,6 +616,9 @@ void tst_QmlControllers::pages()
         QApplication::setLayoutDirection(Qt::LeftToRight);
         QCoreApplication::processEvents();
         QCOMPARE(page->grabFramebuffer(), leftToRight);
+        // What is behind a page with round corners is seen there.
+        const bool isRound = source != QLatin1String("MessageDialog.qml");
+        QCOMPARE(window.grab().toImage().pixelColor(0, 0) == window.palette().color(QPalette::Window), isRound);
     }
     const auto items = itemsBelow(root);
     for (QQuickItem *item : items) {
@@ -635,6 +687,78 @@ void tst_QmlControllers::dialogIsAskedAgain()
     QCOMPARE(rejected.count(), 1);
 }
 
+// The title follows any kind of model, until the host gives the window its own.
+void tst_QmlControllers::dialogTitle()
+{
+    QWidget main;
+    main.show();
+    WQmlDialogController controller;
+    controller.setModel(dialogTexts());
+    DialogContext dialog(m_factory, QStringLiteral("MessageDialog.qml"), &main);
+    dialog.setController(&controller);
+    QVERIFY(dialog.open());
+    QCOMPARE(dialog.view()->transientParent(), main.windowHandle());
+    QCOMPARE(dialog.view()->title(), QStringLiteral("Leave?"));
+    QWindow model; // an object with a title
+    model.setTitle(QStringLiteral("a"));
+    controller.setModel(QVariant::fromValue<QObject *>(&model));
+    QCOMPARE(dialog.view()->title(), QStringLiteral("a"));
+    model.setTitle(QStringLiteral("b"));
+    QCOMPARE(dialog.view()->title(), QStringLiteral("b"));
+    dialog.view()->setTitle(QStringLiteral("own"));
+    model.setTitle(QStringLiteral("c"));
+    QCOMPARE(dialog.view()->title(), QStringLiteral("own"));
+    dialog.close();
+
+    dialog.setParentWidget(nullptr);
+    auto *ending = new WQmlDialogController;
+    ending->setModel(QVariant::fromValue<QObject *>(&model));
+    dialog.setController(ending);
+    QVERIFY(dialog.open());
+    QVERIFY(!dialog.view()->transientParent());
+    delete ending;
+    model.setTitle(QStringLiteral("d"));
+    QCOMPARE(dialog.view()->title(), QStringLiteral("c"));
+    dialog.close();
+}
+
+void tst_QmlControllers::openedAgainWhenAccepted_data()
+{
+    QTest::addColumn<bool>("popup");
+    QTest::newRow("dialog") << false;
+    QTest::newRow("popup") << true;
+}
+
+void tst_QmlControllers::openedAgainWhenAccepted()
+{
+    QFETCH(bool, popup);
+    QWidget main;
+    main.show();
+    DialogContext dialog(m_factory, QStringLiteral("MessageDialog.qml"));
+    PopupContext balloon(m_factory, QStringLiteral("BalloonPopup.qml"), &main);
+    balloon.setTarget(QRect(100, 100, 20, 20));
+    WQuickViewContext *const context = popup ? static_cast<WQuickViewContext *>(&balloon) : &dialog;
+    QStringList told;
+    const auto onAccepted = [&] {
+        told << QStringLiteral("accepted");
+        told << (context->open() ? QStringLiteral("open") : QStringLiteral("refused"));
+    };
+    connect(&dialog, &DialogContext::accepted, this, onAccepted);
+    connect(&balloon, &PopupContext::accepted, this, onAccepted);
+    connect(context, &WQuickViewContext::opened, this, [&] { told << QStringLiteral("opened"); });
+    connect(context, &WQuickViewContext::closed, this, [&] { told << QStringLiteral("closed"); });
+    QVERIFY(context->open());
+    const QPointer<WQuickView> first = context->view();
+    QCOMPARE(first->transientParent(), popup ? main.windowHandle() : nullptr);
+    if (popup)
+        balloon.accept();
+    else
+        dialog.accept();
+    QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("opened accepted closed opened open"));
+    QVERIFY(context->isOpen() && context->view() != first);
+    context->close();
+}
+
 void tst_QmlControllers::listKeys()
 {
     EmptyStateBaseListModel rows;
@@ -656,15 +780,26 @@ void tst_QmlControllers::listKeys()
     };
     QTRY_COMPARE(list->rootObject()->property("currentIndex").toInt(), 0);
     QCOMPARE(press(Qt::Key_Down), 1);
+    QQuickItem *bar = itemWith(list->rootObject(), "progress", 0.0);
+    QVERIFY(bar && bar->isVisible());
+    QCOMPARE(bar->position(), QPointF(193, 4));
     QCOMPARE(press(Qt::Key_End), 29);
+    QTRY_COMPARE(bar->y() + bar->height(), 146.0);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(bar->x(), 3.0);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(press(Qt::Key_Down), 29);
     QVERIFY(press(Qt::Key_PageUp) < 28);
     QCOMPARE(press(Qt::Key_Home), 0);
+    QTRY_COMPARE(bar->y(), 4.0);
     press(Qt::Key_Return);
     QCOMPARE(activated.count(), 1);
     QTest::mouseClick(list.data(), Qt::LeftButton, Qt::NoModifier, {60, 4 + 28 + 14});
     QCOMPARE(activated.count(), 2);
     QCOMPARE(activated.at(1).at(0).toInt(), 1);
+    rows.clear();
+    rows.appendRows(rowsOf(3));
+    QTRY_VERIFY(!bar->isVisible());
 }
 
 void tst_QmlControllers::listShowsItsEmptyState()

@@ -1,11 +1,15 @@
-#include "support/WApplicationMain.h"
 #include "support/WarningLog.h"
 
 #include <UiElements/qml/WQmlBalloon.h>
 #include <UiElements/qml/WQmlHalfPill.h>
+#include <UiElements/qml/WQmlTypes.h>
 
+#include <QApplication>
 #include <QPainter>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickView>
+#include <QtTest>
 
 namespace {
 
@@ -111,6 +115,7 @@ class tst_QmlItems : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void themeOfNoApplication();
     void arrowCenters_data();
     void arrowCenters();
     void placement_data();
@@ -130,6 +135,29 @@ private Q_SLOTS:
     void pillBorders_data();
     void pillBorders();
 };
+
+// In tools that show QML.
+void tst_QmlItems::themeOfNoApplication()
+{
+    WQmlTypes::registerQmlTypes();
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData(R"(
+import QtQuick 2.15
+import UiElements 1.0
+Text {
+    color: Theme.colorSet("text-primary").normal
+    font: Theme.fonts.BodyPrimary
+    property url icon: Theme.icon("chat_24", "red")
+})",
+                      QUrl());
+    WarningLog log;
+    const std::unique_ptr<QObject> text(component.create());
+    QVERIFY2(text, qPrintable(component.errorString()));
+    QCOMPARE(log.take(), QStringList(QStringLiteral("ColorSet name does not exist!  \"text-primary\"")));
+    QVERIFY(text->property("font").value<QFont>().pixelSize() > 0);
+    QVERIFY(!text->property("icon").toUrl().isEmpty());
+}
 
 void tst_QmlItems::arrowCenters_data()
 {
@@ -581,5 +609,12 @@ void tst_QmlItems::pillBorders()
     }
 }
 
-W_TEST_MAIN(tst_QmlItems)
+/// Without an application object of ours: the items need none.
+int main(int argc, char **argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    QApplication app(argc, argv);
+    tst_QmlItems test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_qml_items.moc"

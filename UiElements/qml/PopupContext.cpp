@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDebug>
 #include <QEvent>
 #include <QQuickItem>
 #include <QQuickRenderControl>
@@ -106,6 +107,12 @@ QRect PopupContext::targetRect() const
 
 void PopupContext::setArrow(WQmlBalloon::ArrowAnchor anchor, WQmlBalloon::ArrowAlignment alignment, int offset)
 {
+    constexpr int farthest = QWIDGETSIZE_MAX;
+    if (anchor < WQmlBalloon::None || anchor > WQmlBalloon::Right || alignment < WQmlBalloon::LeftAlignment
+        || alignment > WQmlBalloon::BottomAlignment || offset < -farthest || offset > farthest) {
+        qWarning() << "PopupContext::setArrow - Invalid arrow" << int(anchor) << int(alignment) << offset;
+        return;
+    }
     m_anchor = anchor;
     m_alignment = alignment;
     m_offset = offset;
@@ -148,9 +155,13 @@ QPointer<WQuickView> PopupContext::createView(const IWQmlViewFactory &factory)
         qWarning("PopupContext::open - There is no target that can be seen");
         return nullptr;
     }
+    m_isAccepted = false;
     if (!controller())
         setController(new WQmlPopupController(this));
-    QWindow *const window = parentWindow() ? parentWindow() : targetWindow();
+    QWindow *window = parentWindow() ? parentWindow() : targetWindow();
+    const auto *widget = qobject_cast<QWidget *>(parent());
+    if (!window && widget)
+        window = widget->window()->windowHandle();
     return QPointer<WQuickView>(factory.createQmlPopup(source(), window, controller(), false).data());
 }
 
@@ -169,6 +180,8 @@ void PopupContext::viewClosed()
 {
     notePress();
     unfollowTarget();
+    if (std::exchange(m_isAccepted, false))
+        Q_EMIT accepted();
 }
 
 void PopupContext::rootLoaded(QObject *root)
@@ -181,10 +194,8 @@ void PopupContext::accept()
 {
     if (!isOpen())
         return;
-    const QPointer<PopupContext> self(this);
+    m_isAccepted = true;
     close();
-    if (self)
-        Q_EMIT accepted();
 }
 
 void PopupContext::toggle()

@@ -28,7 +28,8 @@ public:
     ~PopupContext() override;
 
     /// One target takes the place of the other. The parent window of the popup is the one that the target is in, unless
-    /// setParentWindow() or setParentWidget() named another. An open popup moves to its new target.
+    /// setParentWindow() or setParentWidget() named another; for a rectangle, the one that the parent of the context is
+    /// in, if that is a widget. An open popup moves to its new target.
     void setTarget(const QRect &globalRect);
     /// With a rectangle the target is that part of the widget, which may lie in a list or in a text.
     void setTarget(QWidget *widget, const QRect &part = QRect());
@@ -37,7 +38,8 @@ public:
     QRect targetRect() const;
 
     /// The side of the popup that carries the arrow and where on it the arrow sits. With an arrow on top, the default,
-    /// the popup opens below the target. On a screen without room there it opens on the other side.
+    /// the popup opens below the target. On a screen without room there it opens on the other side. A side, an
+    /// alignment or a distance that there cannot be is reported and changes nothing.
     WQmlBalloon::ArrowAnchor arrowAnchor() const { return m_anchor; }
     WQmlBalloon::ArrowAlignment arrowAlignment() const { return m_alignment; }
     int arrowOffset() const { return m_offset; }
@@ -60,7 +62,7 @@ public Q_SLOTS:
     void toggle();
 
 Q_SIGNALS:
-    /// What the popup offers was taken. After closed().
+    /// What the popup offers was taken. Before closed(), as with a dialog; the popup may be opened again from there.
     void accepted();
 
 protected:
@@ -92,6 +94,7 @@ private:
     WQmlBalloon::ArrowAlignment m_alignment = WQmlBalloon::CenterAlignment;
     int m_offset = 0;
     QByteArray m_activationProperty;
+    bool m_isAccepted = false;
     bool m_updateIsDue = false;
     bool m_isClosedByPress = false; // on the target; until the button is released
 };

@@ -5,6 +5,8 @@
 #include <UiElements/icons/WSvgRenderer.h>
 #include <UiElements/theme/WThemeUtils.h>
 
+#include <QDebug>
+#include <QFile>
 #include <QJSEngine>
 #include <QQmlEngine>
 #include <QQuickImageProvider>
@@ -89,10 +91,22 @@ bool QmlTheme::isMirrored() const
 
 WColorSet QmlTheme::findColorSet(const QString &name, const QString &themeType) const
 {
-    return WThemeUtils::getColorSet(name.toStdString(), WThemeUtils::stringToThemeType(themeType));
+    const WThemeUtils::AppThemeType type = WThemeUtils::stringToThemeType(themeType);
+    if (!themeType.isEmpty() && WThemeUtils::themeTypeToString(type) != themeType && m_unknownType != themeType) {
+        m_unknownType = themeType; // many bindings ask for the same one
+        qWarning() << "Theme.colorSet - Unknown theme type, taken as global:" << themeType;
+    }
+    return WThemeUtils::getColorSet(name.toStdString(), type);
 }
 
 QUrl QmlTheme::icon(const QString &name, const QColor &color) const
 {
+    // A set that does not exist was reported when it was asked for.
+    if (!color.isValid())
+        return {};
+    if (!QFile::exists(WSvgRenderer::resourcePath(name))) {
+        qWarning() << "Theme.icon - There is no icon" << name;
+        return {};
+    }
     return QUrl(QStringLiteral("image://%1/%2/%3").arg(providerName, name, color.name(QColor::HexArgb).mid(1)));
 }

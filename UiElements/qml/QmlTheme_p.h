@@ -48,7 +48,8 @@ public:
 
     Q_INVOKABLE WColorSet findColorSet(const QString &name, const QString &themeType = QString()) const;
     /// The source of an Image: an icon of the library's set, by its name with its size ("chat_24"), in that color.
-    /// Sharp at every ratio where the Image has a `sourceSize`.
+    /// Sharp at every ratio where the Image has a `sourceSize`. Empty for an invalid color, and, with a warning, for an
+    /// icon that there is not.
     Q_INVOKABLE QUrl icon(const QString &name, const QColor &color) const;
 
 Q_SIGNALS:
@@ -58,5 +59,6 @@ Q_SIGNALS:
 
 private:
     QJSValue m_colorSet;
+    mutable QString m_unknownType; // reported last
     QPointer<WScaledFonts> m_fonts[FontManagerEnum::MeetingView + 1];
 };

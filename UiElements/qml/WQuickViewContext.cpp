@@ -54,6 +54,9 @@ bool WQuickViewContext::open()
         return true;
     }
     const QPointer<WQuickViewContext> self(this);
+    tellClosed(); // opened again by whoever was told the outcome
+    if (!self || m_view)
+        return self && m_view;
     const QPointer<WQuickView> view = createView(m_factory);
     if (!self) {
         delete view;
@@ -135,7 +138,14 @@ void WQuickViewContext::onClosed()
             view->deleteLater();
     }
     const QPointer<WQuickViewContext> self(this);
+    m_isClosing = true;
     viewClosed();
     if (self)
+        tellClosed();
+}
+
+void WQuickViewContext::tellClosed()
+{
+    if (std::exchange(m_isClosing, false))
         Q_EMIT closed();
 }

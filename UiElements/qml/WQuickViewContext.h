@@ -66,6 +66,7 @@ protected:
 private:
     void onStatusChanged();
     void onClosed();
+    void tellClosed();
 
     const IWQmlViewFactory &m_factory;
     const QString m_source;
@@ -75,4 +76,5 @@ private:
     QPointer<WQuickView> m_view;
     QPoint m_lastPosition;
     bool m_hasLastPosition = false;
+    bool m_isClosing = false; // until closed() is emitted
 };
