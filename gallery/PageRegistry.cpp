@@ -3,7 +3,6 @@
 #include "pages/ButtonsPage.h"
 #include "pages/ChoicesPage.h"
 #include "pages/ClientPage.h"
-#include "pages/ColorsPage.h"
 #include "pages/DateTimePage.h"
 #include "pages/EmojiPage.h"
 #include "pages/IconsPage.h"
@@ -13,6 +12,7 @@
 #include "pages/ModelsPage.h"
 #include "pages/MoviesPage.h"
 #include "pages/OverviewPage.h"
+#include "pages/PalettePage.h"
 #include "pages/QmlPage.h"
 #include "pages/ShortcutsPage.h"
 #include "pages/TemplatesPage.h"
@@ -56,7 +56,7 @@ const QVector<PageEntry> &allPages()
         page<TypePage>("type", "Type"),
         page<IconsPage>("icons", "Icons"),
         page<EmojiPage>("emoji", "Emoji"),
-        page<ColorsPage>("colors", "Colors"),
+        page<PalettePage>("palette", "Palette"),
         page<TemplatesPage>("templates", "Templates"),
     };
     return pages;

@@ -85,6 +85,9 @@ public:
     {
         const int line = m_grid->rowCount();
         m_grid->addWidget(caption(title), line, 0);
+        // Room between the texts and the frame of those that can have the focus.
+        if (auto *label = qobject_cast<WLabel *>(widget))
+            label->setCSS(label->getCSS() + QStringLiteral(" padding: 2px 6px;"));
         if (width > 0)
             widget->setFixedWidth(width);
         m_grid->addWidget(widget, line, 1, Qt::AlignLeading | Qt::AlignVCenter);

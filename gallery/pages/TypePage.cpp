@@ -28,10 +28,25 @@ QString describe(const QFont &font)
     return font.underline() ? TypePage::tr("%1, underlined").arg(text) : text;
 }
 
+// The fonts of all tokens at a scale that need not be the application's.
+QVector<QFont> fontsAt(float scale)
+{
+    QVector<QFont> fonts;
+    WApplication *app = WApplication::find();
+    const QSignalBlocker silent(app);
+    const float present = app->getFontScaleFactor();
+    app->setFontScaleFactor(scale);
+    const QMetaEnum tokens = QMetaEnum::fromType<WFont::Token>();
+    for (int i = 0; i < tokens.keyCount(); ++i)
+        fonts << WFont(WFont::Token(tokens.value(i)));
+    app->setFontScaleFactor(present);
+    return fonts;
+}
+
 } // namespace
 
 TypePage::TypePage()
-    : Page(tr("Type"), tr("Fonts are asked for by token. The font scale in the bar applies to all of them."))
+    : Page(tr("Type"), tr("Fonts are asked for by token, and scaled by the application and by the view."))
 {
     addTokens();
     addScaledSets();
@@ -39,26 +54,38 @@ TypePage::TypePage()
 
 void TypePage::addTokens()
 {
-    WFrame *card = addCard(tr("The 21 tokens"), tr("At the font scale of the application."));
+    WFrame *card = addCard(tr("The 21 tokens"), tr("At the font scale of the application, and from 50 % to 150 %."));
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(6);
-    grid->setColumnMinimumWidth(0, 184);
-    grid->setColumnMinimumWidth(1, 144);
-    grid->setColumnStretch(2, 1);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(0);
     const QMetaEnum tokens = QMetaEnum::fromType<WFont::Token>();
-    WScaledFonts *fonts = WFontManager::get()->getFont(FontManagerEnum::Default);
     for (int i = 0; i < tokens.keyCount(); ++i) {
-        const auto token = WFont::Token(tokens.value(i));
         auto *numbers = new Label(QString(), WFont::RadioButtonLabelSecondary, Label::Secondary);
-        const auto update = [numbers, fonts, token] {
-            numbers->setText(describe(fonts->getFont(token)));
+        const auto update = [numbers, token = WFont::Token(tokens.value(i))] {
+            numbers->setText(describe(WFontManager::get()->getFont(FontManagerEnum::Default)->getFont(token)));
         };
-        connect(fonts, &WScaledFonts::fontTokenChanged, numbers, update);
+        connect(WFontManager::get()->getFont(FontManagerEnum::Default), &WScaledFonts::fontTokenChanged, numbers,
+                update);
         update();
-        grid->addWidget(new Label(QString::fromLatin1(tokens.key(i)), WFont::BodySecondary), i, 0);
-        grid->addWidget(numbers, i, 1);
-        grid->addWidget(new Label(tr("See you at nine"), token), i, 2);
+        const int line = 1 + 2 * i;
+        grid->addWidget(new Label(QString::fromLatin1(tokens.key(i)), WFont::TagLabelSecondary), line, 0,
+                        Qt::AlignBottom);
+        grid->addWidget(numbers, line + 1, 0, Qt::AlignTop);
+        numbers->setContentsMargins(0, 0, 0, 10);
+    }
+    int place = 0;
+    for (const float scale : {0.5F, 0.75F, 1.0F, 1.25F, 1.5F}) {
+        ++place;
+        const QString title = tr("%1 %").arg(qRound(100 * scale));
+        grid->addWidget(new Label(title, WFont::TagLabelSecondary, Label::Secondary), 0, place);
+        const QVector<QFont> fonts = fontsAt(scale);
+        for (int i = 0; i < fonts.size(); ++i) {
+            auto *sample = new Label(tr("Ag %1").arg(fonts.at(i).pixelSize()));
+            sample->setFont(fonts.at(i));
+            sample->setAccessibleDescription(tr("%1 at %2").arg(QString::fromLatin1(tokens.key(i)), title));
+            grid->addWidget(sample, 1 + 2 * i, place, 2, 1, Qt::AlignVCenter);
+        }
+        grid->setColumnStretch(place, 1);
     }
     static_cast<QVBoxLayout *>(card->layout())->addLayout(grid);
 }
@@ -105,9 +132,9 @@ void TypePage::addScaledSets()
     const QMetaObject &meta = WScaledFonts::staticMetaObject;
     for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i) {
         auto *numbers = new Label(QString(), WFont::RadioButtonLabelSecondary, Label::Secondary);
-        auto *sample = new Label(tr("See you at nine"));
+        auto *sample = new Label(tr("At nine"));
         const int line = lines.size();
-        grid->addWidget(new Label(QString::fromLatin1(meta.property(i).name()), WFont::BodySecondary), line, 0);
+        grid->addWidget(new Label(QString::fromLatin1(meta.property(i).name()), WFont::TagLabelSecondary), line, 0);
         grid->addWidget(numbers, line, 1);
         grid->addWidget(sample, line, 2);
         lines.append({i, numbers, sample});
