@@ -9,7 +9,6 @@
 #include <UiElements/qml/WQuickWidget.h>
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QJSValue>
 #include <QLoggingCategory>
 #include <QQuickItem>
@@ -62,21 +61,6 @@ QVariant plainValue(QVariant value)
     return isPlain(value) ? value : QVariant();
 }
 
-void setObjectNameAndReport(QObject *object, WQmlEngine *engine, const QmlRequest &request, const char *destroyedLine)
-{
-    const QString name = request.name();
-    object->setObjectName(name);
-    QObject::connect(
-        object, &QObject::destroyed,
-        [guard = QPointer<WQmlEngine>(engine), prefix = request.prefix, source = request.source, name, destroyedLine] {
-            QmlRequest ended;
-            ended.prefix = prefix;
-            ended.source = source;
-            qCInfo(category) << ended.line(destroyedLine).constData() << name;
-            report(guard, WQmlEngine::DestroyedView, ended);
-        });
-}
-
 class ViewContent final : public QmlContent
 {
 public:
@@ -87,8 +71,7 @@ public:
         view->setResizeMode(QQuickView::SizeRootObjectToView);
         connect(view, &QQuickWindow::sceneGraphError, this,
                 [this](QQuickWindow::SceneGraphError, const QString &message) { onSceneGraphError(message); });
-        connect(view, &QQuickView::statusChanged, this,
-                [this](QQuickView::Status status) { onStatus(QQmlComponent::Status(status)); });
+        follow(view);
         start();
     }
 
@@ -181,7 +164,9 @@ private:
 
 QString QmlRequest::name() const
 {
-    return QFileInfo(source).baseName();
+    const int start = source.lastIndexOf(QLatin1Char('/')) + 1;
+    const int dot = source.indexOf(QLatin1Char('.'), start);
+    return source.mid(start, dot < 0 ? -1 : dot - start);
 }
 
 bool QmlRequest::isRefused(const char *emptyHint) const
@@ -292,25 +277,37 @@ QmlContent::QmlContent(QObject *view, WQmlEngine *engine, const QmlRequest &requ
     : QObject(view)
     , m_view(view)
     , m_engine(engine)
+    , m_hub(QmlEngineHub::of(engine))
     , m_request(request)
     , m_name(request.name())
 {
+    m_hub->add(this);
+}
+
+QmlContent::~QmlContent()
+{
+    if (m_hub)
+        m_hub->remove(this);
+    qCInfo(category) << m_request.line("Qml view destroyed:").constData() << m_name;
+    report(m_engine, WQmlEngine::DestroyedView, m_request);
+}
+
+void QmlContent::follow(WQuickView *view)
+{
+    view->m_content = this;
 }
 
 void QmlContent::start()
 {
     QQuickWindow::setTextRenderType(QQuickWindow::QtTextRendering);
-    setObjectNameAndReport(m_view, m_engine, m_request, "Qml view destroyed:");
-    QmlEngineHub *const hub = QmlEngineHub::of(m_engine);
-    connect(hub, &QmlEngineHub::unloadRequested, this, &QmlContent::unload);
+    m_view->setObjectName(m_name);
     if (m_name != devTools) {
         m_isReloadable = true;
         watchPerformance(m_engine);
-        connect(m_engine, &WQmlEngine::reloadAllQmlViews, this, &QmlContent::reload);
     }
     if (m_request.controller)
         followController(m_request.controller);
-    load(hub->url(m_request.source));
+    load(m_hub->url(m_request.source));
 }
 
 void QmlContent::onSceneGraphError(const QString &message)
@@ -365,13 +362,13 @@ void QmlContent::fill()
 {
     const QPointer<QmlContent> self(this);
     const QPointer<QQmlComponent> component(m_component);
-    if (!component || !m_engine || component->isLoading())
+    if (!component || !m_hub || component->isLoading())
         return;
     const QUrl url = component->url();
     QPointer<QObject> root;
     if (component->isReady()) {
         QVariantMap properties = m_request.initialProperties();
-        root = QmlEngineHub::of(m_engine)->create(component, properties, &m_creationErrors);
+        root = m_hub->create(component, properties, &m_creationErrors);
         if (!self || !component || component != m_component) { // what it did while it was made ended the view
             delete root;
             return;
@@ -439,6 +436,8 @@ void QmlContent::unload(bool forGood)
 
 void QmlContent::reload()
 {
+    if (!m_isReloadable)
+        return;
     const QUrl url = source();
     if (!url.isValid()) {
         qWarning("%s", m_request.line("Trying to reload an empty QML view").constData());
@@ -553,13 +552,21 @@ void finishObject(WQmlEngine *engine, QQmlComponent *component, const QmlRequest
         return;
     }
     object->setParent(parent);
-    setObjectNameAndReport(object, guard, request, "Qml component destroyed:");
+    const QString name = request.name();
+    object->setObjectName(name);
+    QObject::connect(object, &QObject::destroyed, [guard, prefix = request.prefix, source = request.source, name] {
+        QmlRequest ended;
+        ended.prefix = prefix;
+        ended.source = source;
+        qCInfo(category) << ended.line("Qml component destroyed:").constData() << name;
+        report(guard, WQmlEngine::DestroyedView, ended);
+    });
     report(guard, WQmlEngine::Initializing, request);
     if (object && request.initialize)
         request.initialize(object, QmlRequest::findController(object));
     if (object && onCreated)
         onCreated(object);
-    qCInfo(category) << request.line("Qml component ready: ").constData() << request.name();
+    qCInfo(category) << request.line("Qml component ready: ").constData() << name;
     report(guard, WQmlEngine::Ready, request);
 }
 

@@ -10,6 +10,7 @@
 class QQuickItem;
 class QWidget;
 class QWindow;
+class QmlEngineHub;
 class WPopupQuickView;
 class WQmlController;
 class WQmlEngine;
@@ -45,6 +46,8 @@ class QmlContent : public QObject
     Q_OBJECT
 
 public:
+    ~QmlContent() override;
+
     /// What both the factory and the older creators make. Null only if what the view did while it loaded ended it.
     static QPointer<WQuickView> makeWindow(WQmlEngine *engine, const QmlRequest &request, QWindow *parent);
     static QPointer<WQuickView> makeDialog(WQmlEngine *engine, const QmlRequest &request, QWindow *parent,
@@ -64,12 +67,16 @@ public:
     static void makeObject(WQmlEngine *engine, const QmlRequest &request, QObject *parent,
                            const std::function<void(QObject *)> &onCreated);
 
+    void onStatus(QQmlComponent::Status status);
+    /// Empties the view, if it can be filled again or if that is not wanted.
+    void unload(bool forGood);
+    void reload();
+
 protected:
     QmlContent(QObject *view, WQmlEngine *engine, const QmlRequest &request);
 
     void start();
     void onSceneGraphError(const QString &message);
-    void onStatus(QQmlComponent::Status status);
 
     virtual QObject *root() const = 0;
     virtual QUrl source() const = 0;
@@ -80,6 +87,8 @@ protected:
     virtual void errorShown() = 0;
     virtual void contentShown() = 0;
     virtual bool isWidget() const = 0;
+    /// The view calls onStatus().
+    void follow(WQuickView *view);
     static void startMeasuring(WQuickView *view);
     static void startMeasuring(WQuickWidget *view);
     static void prepareSize(WQuickView *view, const QQuickItem *content);
@@ -95,8 +104,6 @@ private:
 
     void load(const QUrl &url);
     void fill();
-    void unload(bool forGood);
-    void reload();
     void initialize(QObject *root);
     void followController(QObject *controller);
     void keepValues(const QObject *root);
@@ -105,6 +112,7 @@ private:
 
     QObject *const m_view;
     const QPointer<WQmlEngine> m_engine;
+    const QPointer<QmlEngineHub> m_hub;
     const QmlRequest m_request;
     const QString m_name;
     QPointer<QQmlComponent> m_component;

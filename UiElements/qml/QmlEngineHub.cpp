@@ -1,5 +1,7 @@
 #include "QmlEngineHub_p.h"
 
+#include "QmlContent_p.h"
+
 #include <UiElements/qml/WQmlEngine.h>
 
 #include <QDir>
@@ -7,10 +9,31 @@
 #include <QQmlContext>
 
 #include <algorithm>
+#include <functional>
+
+namespace {
+
+/// A path of names that mean nothing else to anybody, as nearly all sources are.
+bool isPlain(const QString &source)
+{
+    QChar before = QLatin1Char('/');
+    for (const QChar c : source) {
+        const bool isName = (c >= QLatin1Char('a') && c <= QLatin1Char('z'))
+            || (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) || (c >= QLatin1Char('0') && c <= QLatin1Char('9'));
+        const bool separates = c == QLatin1Char('/') || c == QLatin1Char('.');
+        if (!isName && (!separates || before == QLatin1Char('/')))
+            return false;
+        before = c;
+    }
+    return before != QLatin1Char('/');
+}
+
+} // namespace
 
 QmlEngineHub::QmlEngineHub(WQmlEngine *engine)
     : m_engine(engine)
 {
+    connect(engine, &WQmlEngine::reloadAllQmlViews, this, [this] { tellContents(&QmlContent::reload); });
 }
 
 QmlEngineHub::~QmlEngineHub()
@@ -25,6 +48,8 @@ QmlEngineHub *QmlEngineHub::of(const WQmlEngine *engine)
 
 bool QmlEngineHub::isInsideRoot(const QString &source)
 {
+    if (isPlain(source))
+        return true;
     QString path = source;
     // Until nothing is left to decode: "%252e" is "%2e" to whoever decodes once.
     for (QString decoded;; path = decoded) {
@@ -41,13 +66,15 @@ bool QmlEngineHub::isInsideRoot(const QString &source)
         && !clean.startsWith(QLatin1String("../")) && !path.contains(QChar::Null);
 }
 
-QUrl QmlEngineHub::url(const QString &source) const
+QUrl QmlEngineHub::url(const QString &source)
 {
     if (m_engine->isReadingQmlFromDisk())
         return QUrl::fromLocalFile(QDir::cleanPath(m_engine->qmlDirectory() + QLatin1Char('/') + source));
-    QUrl url;
-    url.setScheme(QStringLiteral("qrc"));
-    url.setPath(QLatin1String("/Qml/") + source);
+    QUrl &url = m_resourceUrls[source];
+    if (url.isEmpty()) {
+        url.setScheme(QStringLiteral("qrc"));
+        url.setPath(QLatin1String("/Qml/") + source);
+    }
     return url;
 }
 
@@ -99,9 +126,24 @@ QObject *QmlEngineHub::create(QQmlComponent *spare, const QVariantMap &propertie
     return object;
 }
 
+template <typename Tell>
+void QmlEngineHub::tellContents(Tell tell) const
+{
+    QVector<QPointer<QmlContent>> contents;
+    for (QmlContent *content : m_contents)
+        contents << content;
+    for (const QPointer<QmlContent> &content : qAsConst(contents)) {
+        if (content) // the one before may have ended it
+            std::invoke(tell, content.data());
+    }
+}
+
 void QmlEngineHub::unload(bool forGood)
 {
-    Q_EMIT unloadRequested(forGood);
+    const QPointer<QmlEngineHub> self(this);
+    tellContents([forGood](QmlContent *content) { content->unload(forGood); });
+    if (!self)
+        return;
     for (QQmlComponent *component : qAsConst(m_components)) {
         // One that is at work right now makes its object first.
         if (m_busy.contains(component) && !forGood)

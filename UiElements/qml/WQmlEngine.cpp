@@ -35,6 +35,8 @@ WQmlEngine::WQmlEngine(QObject *parent)
 {
     qRegisterMetaType<WQmlEngine::QmlViewStatus>("WQmlEngine::QmlViewStatus");
     fixImportPath();
+    // Without it each component that is made asks the system for the working folder.
+    setBaseUrl(baseUrl());
     if (const WAppSignals *bus = WAppSignals::get())
         connect(bus, &WAppSignals::reloadAllQmlViews, this, &WQmlEngine::reload);
     connect(this, &WQmlEngine::qmlViewStatusChanged, &logStatus);

@@ -23,6 +23,8 @@ class WQuickWidget;
 ///
 /// It lives in the GUI thread and has no parent when a WQmlEngineLoader or the application object makes it. Keep it in
 /// a QPointer: it ends when the application is about to quit. The views that it shows are then unloaded before it.
+///
+/// Relative URLs begin in the folder in which the program was when the engine was made; see setBaseUrl().
 class UIELEMENTS_EXPORT WQmlEngine : public QQmlEngine
 {
     Q_OBJECT

@@ -169,10 +169,13 @@ void WQuickView::callControllerCallback(const std::function<void(WQmlController 
 
 void WQuickView::onStatus(QQuickView::Status status)
 {
+    const QPointer<WQuickView> self(this);
     if (status == Ready && m_fixedSize)
         setupFixedSize();
-    if (status != Loading && status != Null && m_showWhenReady)
+    if (self && status != Loading && status != Null && m_showWhenReady)
         _dispatchShow();
+    if (self && m_content)
+        m_content->onStatus(QQmlComponent::Status(status));
 }
 
 QWindow *WQuickView::topLevel(QWindow *window)

@@ -10,6 +10,7 @@
 #include <functional>
 
 class QQuickItem;
+class QmlContent;
 class WQmlController;
 
 /// A window that shows QML.
@@ -80,6 +81,7 @@ private:
     void closeUnlessFocused();
 
     ViewOptions m_options;
+    QmlContent *m_content = nullptr; // a child; none in a view that its host fills
     QAccessible::Role m_accessibleRole = QAccessible::NoRole;
     bool m_watchingPerformance = false;
     bool m_fixedSize = false;
