@@ -21,6 +21,7 @@
 #include <UiElements/qml/WQuickView.h>
 #include <UiElements/qml/WQuickWidget.h>
 #include <UiElements/theme/WThemeUtils.h>
+#include <UiElements/widgets/WFrame.h>
 
 #include <QAccessible>
 #include <QLibraryInfo>
@@ -129,6 +130,7 @@ private Q_SLOTS:
     void typesInQml();
     void themeReachesBindings();
     void wrongInput();
+    void themeReachesErrors();
     void pages_data();
     void pages();
     void dialogKeys_data();
@@ -527,6 +529,53 @@ Item {
     const QVariantList icons = object->property("icons").toList();
     QCOMPARE(icons.at(0).toUrl(), QUrl(QStringLiteral("image://uielements-icon/chat_24/ffff0000")));
     QVERIFY(icons.at(1).toUrl().isEmpty() && icons.at(2).toUrl().isEmpty());
+}
+
+// Of the theme type that the controller or the window around the widget has.
+void tst_QmlControllers::themeReachesErrors()
+{
+    auto *app = WApplication::find();
+    const WColorSets before = app->getColorSets();
+    const auto sets = [](int blue) {
+        return spelledSets({"background-primary", "text-primary"}, blue);
+    };
+    app->setColorSets(sets(10));
+    app->setInvertedColorSets(sets(20));
+    const WQmlEngineLoader loader;
+    const WQmlViewFactory factory(loader);
+    QmlFiles files(loader.getQmlEngine());
+    files.write("Bad.qml", "Item { x: }");
+    const QString bad = QStringLiteral("Bad.qml");
+    MessageLog log; // what is wrong
+    WQmlPopupController controller;
+    WFrame window;
+    QScopedPointer<WQuickView> view(factory.createQmlPopup(bad, nullptr, &controller, false));
+    const WQuickWidget *widget = factory.createQmlWidget(bad, &window, nullptr);
+    const auto colors = [](const QQuickWindow *shown) {
+        const QQuickItem *error = shown->contentItem()->childItems().constFirst();
+        return QStringList {error->property("color").value<QColor>().name(),
+                            error->property("textColor").value<QColor>().name()};
+    };
+    const auto named = [](int blue) {
+        return QStringList {QColor(0, 0, blue).name(), QColor(1, 0, blue).name()};
+    };
+    QCOMPARE(colors(view.data()), named(10));
+    QCOMPARE(colors(widget->quickWindow()), named(10));
+    app->setColorSets(sets(30));
+    QCOMPARE(colors(view.data()), named(30));
+    QCOMPARE(colors(widget->quickWindow()), named(30));
+    controller.setThemeType(QStringLiteral("inverted"));
+    window.setThemeType(QStringLiteral("inverted"));
+    view->show();
+    window.show();
+    QCOMPARE(colors(view.data()), named(20));
+    QCOMPARE(colors(widget->quickWindow()), named(20));
+    app->setInvertedColorSets({}); // somebody has no such theme
+    app->setColorSets({});
+    QCOMPARE(colors(view.data()).constFirst(), QGuiApplication::palette().color(QPalette::Window).name());
+    view.reset();
+    delete loader.getQmlEngine();
+    app->setColorSets(before);
 }
 
 // --- the pages

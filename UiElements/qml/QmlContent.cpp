@@ -2,15 +2,20 @@
 
 #include "QmlEngineHub_p.h"
 
+#include <UiElements/app/IWApplication.h>
 #include <UiElements/qml/WPopupQuickView.h>
 #include <UiElements/qml/WQmlController.h>
 #include <UiElements/qml/WQmlEngine.h>
 #include <UiElements/qml/WQuickView.h>
 #include <UiElements/qml/WQuickWidget.h>
+#include <UiElements/theme/WThemeUtils.h>
 
 #include <QDebug>
+#include <QEvent>
+#include <QGuiApplication>
 #include <QJSValue>
 #include <QLoggingCategory>
+#include <QPalette>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -487,10 +492,9 @@ void QmlContent::showError(const QString &text)
 import QtQuick 2.15
 Rectangle {
     property string message
-    color: palette.window
+    property alias textColor: text.color
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message
-    SystemPalette { id: palette }
     Flickable {
         anchors { fill: parent; margins: 12 }
         contentHeight: text.height
@@ -502,7 +506,6 @@ Rectangle {
             selectByMouse: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
-            color: palette.windowText
             text: message
         }
     }
@@ -526,7 +529,35 @@ Rectangle {
     connect(window, &QWindow::heightChanged, item, fit);
     fit();
     m_errorItem = item;
+    colorError();
+    if (const auto *app = qobject_cast<IWApplication *>(QCoreApplication::instance()))
+        connect(app, &IWApplication::colorSetsChanged, item, [this] { colorError(); });
+    m_view->installEventFilter(this);
     errorShown();
+}
+
+void QmlContent::colorError()
+{
+    const QVariant told = m_controller ? m_controller->property("themeType") : QVariant();
+    auto type = WThemeUtils::stringToThemeType(told.toString());
+    if (type == WThemeUtils::AppThemeTypeGlobal)
+        type = WThemeUtils::getThemeTypeOfWidget(qobject_cast<QWidget *>(m_view));
+    const WColorSets &sets = WThemeUtils::getWColorSetsByThemeType(type);
+    const auto color = [&sets](const char *name, QPalette::ColorRole role) {
+        const auto it = sets.find(name);
+        return it == sets.end() ? QGuiApplication::palette().color(role) : it->second.normal();
+    };
+    m_errorItem->setProperty("color", color("background-primary", QPalette::Window));
+    m_errorItem->setProperty("textColor", color("text-primary", QPalette::WindowText));
+}
+
+bool QmlContent::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool mayChangeTheme =
+        event->type() == QEvent::StyleChange || event->type() == QEvent::ParentChange || event->type() == QEvent::Show;
+    if (watched == m_view && mayChangeTheme && m_errorItem)
+        colorError();
+    return QObject::eventFilter(watched, event);
 }
 
 // --- objects without a view

@@ -109,6 +109,9 @@ private:
     void keepValues(const QObject *root);
     void restoreValues(QObject *root);
     void showError(const QString &text);
+    /// The colors of the theme, and of the window around a widget.
+    void colorError();
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QObject *const m_view;
     const QPointer<WQmlEngine> m_engine;
