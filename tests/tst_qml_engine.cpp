@@ -617,6 +617,15 @@ void tst_QmlEngine::deprecatedObject()
     QCOMPARE(statuses.take(), QStringLiteral("Creating Initializing Ready Creating Initializing Ready"));
     delete thing;
     QCOMPARE(statuses.take(), QStringLiteral("DestroyedView"));
+
+    // Whatever was begun ends.
+    files.write("Bad.qml", "QtObject { nonsense: }");
+    files.write("Required.qml", "QtObject { required property int must }");
+    const MessageLog log;
+    make("Bad.qml");
+    QCOMPARE(statuses.take(), QStringLiteral("Creating Error DestroyedView"));
+    make("Required.qml");
+    QCOMPARE(statuses.take(), QStringLiteral("Creating DestroyedView"));
 }
 
 // --- reloading

@@ -570,16 +570,17 @@ void finishObject(WQmlEngine *engine, QQmlComponent *component, const QmlRequest
     if (component->isError()) {
         qWarning().nospace().noquote() << request.line("Qml component error (").constData() << request.name()
                                        << ") :" << component->errorString();
+        const QPointer<WQmlEngine> guard(engine);
         report(engine, WQmlEngine::Error, request, joined(component->errors(), &QQmlError::toString));
+        report(guard, WQmlEngine::DestroyedView, request);
         return;
     }
     const QPointer<WQmlEngine> guard(engine);
     QList<QQmlError> errors;
     const QPointer<QObject> object(QmlEngineHub::of(engine)->create(component, request.initialProperties(), &errors));
-    if (!object)
-        return;
-    if (hasParent && !parent) {
+    if (!object || (hasParent && !parent)) {
         delete object;
+        report(guard, WQmlEngine::DestroyedView, request);
         return;
     }
     object->setParent(parent);
