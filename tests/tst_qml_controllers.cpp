@@ -707,8 +707,11 @@ void tst_QmlControllers::dialogKeys()
     connect(&dialog, &DialogContext::closed, this, [&] { told << QStringLiteral("closed"); });
     QVERIFY(dialog.open());
     QVERIFY(QTest::qWaitForWindowActive(dialog.view()));
-    for (const int key : keys)
-        QTest::keyClick(dialog.view(), Qt::Key(key));
+    for (const int key : keys) {
+        QTest::keyPress(dialog.view(), Qt::Key(key));
+        if (dialog.isOpen())
+            QTest::keyRelease(dialog.view(), Qt::Key(key));
+    }
     QTRY_COMPARE(told.join(QLatin1Char(' ')), outcome);
     QVERIFY(!dialog.isOpen());
 }
@@ -1042,7 +1045,7 @@ void tst_QmlControllers::popupFollowsItsTarget()
     }
 
     QSignalSpy accepted(&target.context, &PopupContext::accepted);
-    QTest::keyClick(target.context.view(), Qt::Key_Return);
+    QTest::keyPress(target.context.view(), Qt::Key_Return); // the view is gone when the key is released
     QTRY_COMPARE(accepted.count(), 1);
     deleteNow();
     QVERIFY(!target.button->isChecked());
@@ -1073,7 +1076,7 @@ void tst_QmlControllers::popupClosesWithItsTarget()
     case 2: target.area.hide(); break;
     case 3: target.area.verticalScrollBar()->setValue(500); break;
     case 4: target.context.setTarget(QRect()); break;
-    case 5: QTest::keyClick(view, Qt::Key_Escape); break;
+    case 5: QTest::keyPress(view, Qt::Key_Escape); break;
     }
     QTRY_COMPARE(closed.count(), 1);
     QVERIFY(!target.context.isOpen());
