@@ -1181,11 +1181,15 @@ void tst_QmlControllers::popupIsToggled()
     const auto click = [&] {
         QTest::mouseClick(target.area.windowHandle(), Qt::LeftButton, Qt::NoModifier, at);
     };
-    for (const bool open : {true, false, true}) {
+    target.context.setActivationProperty("checked"); // which a click changes by itself
+    for (const bool open : {true, false, true, false, true}) {
         click();
         QCOMPARE(target.context.isOpen(), open);
+        QCOMPARE(target.button->isChecked(), open);
         QCoreApplication::processEvents();
+        deleteNow();
         QCOMPARE(target.context.isOpen(), open);
+        QCOMPARE(target.button->isChecked(), open);
     }
     // A press that becomes no click is not held against the next one.
     QTest::mousePress(target.area.windowHandle(), Qt::LeftButton, Qt::NoModifier, at);
@@ -1194,6 +1198,19 @@ void tst_QmlControllers::popupIsToggled()
     QCoreApplication::processEvents();
     click();
     QVERIFY(target.context.isOpen());
+
+    // A popup that is closed lives on for a while, but holds on to nothing.
+    target.context.close();
+    QVERIFY(!target.button->isChecked());
+    QVERIFY(target.context.open());
+    deleteNow();
+    QVERIFY(target.button->isChecked());
+    target.area.hide(); // nothing to open against
+    QCoreApplication::processEvents();
+    target.button->setChecked(true);
+    const MessageLog log;
+    target.context.toggle();
+    QVERIFY(!target.context.isOpen() && !target.button->isChecked());
 }
 
 void tst_QmlControllers::popupTimer()

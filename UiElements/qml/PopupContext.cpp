@@ -54,6 +54,7 @@ QQuickWidget *hostOf(const QQuickItem *item)
 
 PopupContext::~PopupContext()
 {
+    releaseActivation();
     unfollowTarget();
 }
 
@@ -168,6 +169,7 @@ QPointer<WQuickView> PopupContext::createView(const IWQmlViewFactory &factory)
 void PopupContext::showView()
 {
     const QPointer<PopupContext> self(this);
+    m_activated = popup();
     if (!m_activationProperty.isEmpty() && m_target)
         popup()->setupActivationItem(m_target, m_activationProperty);
     if (!self || !isOpen()) // closed by whoever follows that property
@@ -180,8 +182,16 @@ void PopupContext::viewClosed()
 {
     notePress();
     unfollowTarget();
-    if (std::exchange(m_isAccepted, false))
+    const QPointer<PopupContext> alive(this);
+    releaseActivation();
+    if (alive && std::exchange(m_isAccepted, false))
         Q_EMIT accepted();
+}
+
+void PopupContext::releaseActivation()
+{
+    if (const QPointer<WPopupQuickView> view = std::exchange(m_activated, nullptr))
+        view->releaseActivationItem();
 }
 
 void PopupContext::rootLoaded(QObject *root)
@@ -200,10 +210,15 @@ void PopupContext::accept()
 
 void PopupContext::toggle()
 {
+    const QPointer<PopupContext> self(this);
     if (isOpen())
         close();
     else if (!std::exchange(m_isClosedByPress, false))
         open();
+    // A button that can be checked is, or is not, by the click itself.
+    if (self && !isOpen() && m_target && !m_activationProperty.isEmpty()
+        && m_target->property(m_activationProperty.constData()).toBool())
+        m_target->setProperty(m_activationProperty.constData(), false);
 }
 
 void PopupContext::notePress()

@@ -46,7 +46,8 @@ public:
     void setArrow(WQmlBalloon::ArrowAnchor anchor, WQmlBalloon::ArrowAlignment alignment = WQmlBalloon::CenterAlignment,
                   int offset = 0);
 
-    /// A boolean property of the target that is true while the popup is open, such as the "checked" of a button.
+    /// A boolean property of the target that is true while the popup is open, such as the "checked" of a button. That a
+    /// click changes it, too, does no harm when toggle() is what the click calls.
     void setActivationProperty(const QByteArray &property) { m_activationProperty = property; }
 
     /// Tells the QML where the arrow is. Without a WQmlPopupController as the controller the context makes one when it
@@ -83,6 +84,7 @@ private:
     void update();
     void place();
     void notePress();
+    void releaseActivation();
 
     QRect m_rect; // on the desktop, or the part of the widget
     QPointer<QObject> m_target;
@@ -94,6 +96,7 @@ private:
     WQmlBalloon::ArrowAlignment m_alignment = WQmlBalloon::CenterAlignment;
     int m_offset = 0;
     QByteArray m_activationProperty;
+    QPointer<WPopupQuickView> m_activated; // the view that holds it; it lives on for a while when it is closed
     bool m_isAccepted = false;
     bool m_updateIsDue = false;
     bool m_isClosedByPress = false; // on the target; until the button is released

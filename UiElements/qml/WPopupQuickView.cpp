@@ -49,7 +49,13 @@ WPopupQuickView::WPopupQuickView(QQmlEngine *engine, QWindow *parentWindow, cons
 
 WPopupQuickView::~WPopupQuickView()
 {
-    if (m_activationItem && !m_activationItem->setProperty(m_activationProperty.constData(), false))
+    releaseActivationItem();
+}
+
+void WPopupQuickView::releaseActivationItem()
+{
+    const QPointer<QObject> item = std::exchange(m_activationItem, nullptr);
+    if (item && !item->setProperty(m_activationProperty.constData(), false))
         qWarning("~WPopupQuickView - unable to set property");
 }
 

@@ -49,6 +49,8 @@ protected:
     bool closesOnEscape() const override { return true; }
 
 private:
+    friend class PopupContext;
+    void releaseActivationItem();
     QPoint wantedPosition(Qt::ArrowType arrow) const;
     Qt::ArrowType fittingArrow(const QRect &area) const;
     void moveTo(const QRect &area);
