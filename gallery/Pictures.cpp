@@ -12,8 +12,11 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QProcess>
 
 #include <cstdio>
+#include <memory>
+#include <vector>
 
 namespace {
 
@@ -42,10 +45,11 @@ void settle()
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-QPixmap picture(QWidget *window, int scale)
+QPixmap picture(QWidget *window)
 {
-    QPixmap pixmap(window->size() * scale);
-    pixmap.setDevicePixelRatio(scale);
+    const qreal ratio = window->devicePixelRatioF();
+    QPixmap pixmap(window->size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     window->render(&pixmap);
     return pixmap;
@@ -67,7 +71,7 @@ struct Shot
 
 // Visits each page in each theme and direction. Themes change outermost: that is what takes longest.
 template <typename Visit>
-void visitAll(GalleryThemes *themes, const PictureOptions &options, const Visit &visit)
+void visitAll(GalleryThemes *themes, const PictureOptions &options, bool withInverted, const Visit &visit)
 {
     StandingClock clock;
     clock.install();
@@ -102,13 +106,66 @@ void visitAll(GalleryThemes *themes, const PictureOptions &options, const Visit 
             visitPages(theme, name, false);
         }
         window.setDirection(Qt::LeftToRight);
-        if (wanted(options.directions, QStringLiteral("ltr"))) {
+        if (withInverted && wanted(options.directions, QStringLiteral("ltr"))) {
             window.setWindowThemeType(QStringLiteral("inverted"));
             visitPages(theme, QStringLiteral("ltr"), true);
             window.setWindowThemeType(QStringLiteral("global"));
         }
     }
     clock.uninstall();
+}
+
+QString textOf(int scale)
+{
+    return QStringLiteral("%1x").arg(scale);
+}
+
+// QML in a widget is drawn at the ratio of the screen and at no other, so each scale has a program of its own, for
+// which that is the ratio of the screen.
+std::unique_ptr<QProcess> startAtScale(int scale)
+{
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    for (int i = arguments.size() - 1; i >= 0; --i) {
+        if (arguments.at(i) == QLatin1String("--scale"))
+            arguments.erase(arguments.begin() + i, arguments.begin() + qMin(i + 2, arguments.size()));
+        else if (arguments.at(i).startsWith(QLatin1String("--scale=")))
+            arguments.removeAt(i);
+    }
+    arguments << QStringLiteral("--scale") << textOf(scale);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QGuiApplication::platformName());
+    environment.insert(QStringLiteral("QT_ENABLE_HIGHDPI_SCALING"), QStringLiteral("0"));
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(scale));
+    auto process = std::make_unique<QProcess>();
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->setProcessEnvironment(environment);
+    process->start(QCoreApplication::applicationFilePath(), arguments);
+    return process;
+}
+
+bool writeHere(GalleryThemes *themes, const PictureOptions &options, int scale)
+{
+    const QDir folder(options.folder);
+    int written = 0;
+    QString failed;
+    visitAll(themes, options, scale == 1, [&](QWidget *window, const Shot &shot) {
+        if (!failed.isEmpty())
+            return;
+        const QString name = shot.name() + QLatin1Char('-') + textOf(scale);
+        const QString file = folder.filePath(name + QLatin1String(".png"));
+        if (!picture(window).save(file)) {
+            failed = file;
+            return;
+        }
+        ++written;
+        say(stdout, name);
+    });
+    if (!failed.isEmpty()) {
+        say(stderr, QStringLiteral("The picture %1 cannot be written").arg(failed));
+        return false;
+    }
+    say(stdout, QStringLiteral("%1 pictures at %2 in %3").arg(written).arg(textOf(scale), folder.absolutePath()));
+    return true;
 }
 
 } // namespace
@@ -120,38 +177,38 @@ int Pictures::write(GalleryThemes *themes, const PictureOptions &options)
         say(stderr, QStringLiteral("Pictures cannot be written to %1").arg(options.folder));
         return 1;
     }
-    int written = 0;
-    QString failed;
-    visitAll(themes, options, [&](QWidget *window, const Shot &shot) {
-        for (const int scale : {1, 2}) {
-            const QString suffix = QStringLiteral("%1x").arg(scale);
-            if (!wanted(options.scales, suffix) || (shot.inverted && scale > 1) || !failed.isEmpty())
-                continue;
-            const QString file = folder.filePath(shot.name() + QLatin1Char('-') + suffix + QLatin1String(".png"));
-            if (!picture(window, scale).save(file)) {
-                failed = file;
-                continue;
-            }
-            ++written;
+    const qreal ratio = qApp->devicePixelRatio();
+    bool allWritten = true;
+    bool isOwnWanted = false;
+    std::vector<std::unique_ptr<QProcess>> others;
+    for (const int scale : {1, 2}) {
+        if (!wanted(options.scales, textOf(scale)))
+            continue;
+        if (qFuzzyCompare(ratio, scale)) {
+            isOwnWanted = true;
+        } else if (qEnvironmentVariableIntValue("QT_SCALE_FACTOR") == scale) {
+            say(stderr, QStringLiteral("Nothing can be drawn at %1 here").arg(textOf(scale)));
+            allWritten = false;
+        } else {
+            others.push_back(startAtScale(scale));
         }
-        if (failed.isEmpty())
-            say(stdout, shot.name());
-    });
-    if (!failed.isEmpty()) {
-        say(stderr, QStringLiteral("The picture %1 cannot be written").arg(failed));
-        return 1;
     }
-    say(stdout, QStringLiteral("%1 pictures in %2").arg(written).arg(folder.absolutePath()));
-    return 0;
+    if (isOwnWanted)
+        allWritten = writeHere(themes, options, qRound(ratio)) && allWritten;
+    for (const auto &process : others) {
+        const bool isDone = process->waitForFinished(-1);
+        allWritten = allWritten && isDone && process->exitStatus() == QProcess::NormalExit && process->exitCode() == 0;
+    }
+    return allWritten ? 0 : 1;
 }
 
 int Pictures::check(GalleryThemes *themes, const PictureOptions &options)
 {
     int shots = 0;
     QStringList faults;
-    visitAll(themes, options, [&](QWidget *window, const Shot &shot) {
+    visitAll(themes, options, true, [&](QWidget *window, const Shot &shot) {
         ++shots;
-        picture(window, 1);
+        picture(window);
         const QStringList found = LayoutCheck::faults(window);
         for (const QString &fault : found)
             faults << shot.name() + QLatin1String(": ") + fault;
