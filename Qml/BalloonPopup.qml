@@ -63,7 +63,8 @@ FocusScope {
         arrowOffset: root.told("arrowOffset", 0)
         arrowSize: root.told("arrowSize", 10)
         backgroundColor: Theme.colorSet("menu-background", root.themeType).normal
-        borderColor: Theme.colorSet("menu-border", root.themeType).normal
+        // What is behind may have the color of the balloon: its outline alone must tell them apart.
+        borderColor: Theme.colorSet("outline-primary", root.themeType).normal
     }
 
     Column {

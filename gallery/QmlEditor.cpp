@@ -1,5 +1,6 @@
 #include "QmlEditor.h"
 
+#include "Controls.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "PlainParts.h"
@@ -50,7 +51,7 @@ QmlEditor::QmlEditor(QmlLedger *ledger, QWidget *parent)
     , m_original(textOf(QStringLiteral(":/Qml/gallery/Live.qml")))
 {
     m_surface = new QmlSurface(tr("Live view"));
-    m_surface->setMinimumSize(220, Height);
+    m_surface->setMinimumSize(150, Height);
     m_status = new Label(QString(), WFont::BodyTertiary, Label::Secondary);
     auto *sides = new QHBoxLayout;
     sides->setSpacing(16);
@@ -96,7 +97,7 @@ QWidget *QmlEditor::makeField()
     m_field->setLineWrapMode(QTextEdit::NoWrap);
     m_field->setLayoutDirection(Qt::LeftToRight); // code is
     m_field->setTabChangesFocus(true);
-    m_field->setMinimumSize(280, Height);
+    m_field->setMinimumSize(200, Height);
     m_field->setPlainText(m_original);
     auto *keys = new QShortcut(QKeySequence::Save, m_field);
     keys->setContext(Qt::WidgetShortcut);
@@ -106,12 +107,8 @@ QWidget *QmlEditor::makeField()
 
 QWidget *QmlEditor::makeButtons()
 {
-    auto *all = new QWidget;
-    auto *row = new FlowLayout(8, 8, all);
-    row->setContentsMargins(0, 0, 0, 0);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
-    policy.setHeightForWidth(true);
-    all->setSizePolicy(policy);
+    FlowLayout *row = nullptr;
+    QWidget *const all = makeFlow(&row);
     QPushButton *reload = makeButton(tr("Save and reload"));
     reload->setProperty("kind", QStringLiteral("primary"));
     reload->setToolTip(QKeySequence(QKeySequence::Save).toString(QKeySequence::NativeText));

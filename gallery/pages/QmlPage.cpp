@@ -1,5 +1,6 @@
 #include "QmlPage.h"
 
+#include "Controls.h"
 #include "GalleryStyles.h"
 #include "Label.h"
 #include "PlainParts.h"
@@ -8,6 +9,7 @@
 #include "QmlSurface.h"
 
 #include <UiElements/icons/WSvgRenderer.h>
+#include <UiElements/layouts/FlowLayout.h>
 #include <UiElements/models/EmptyStateBaseListModel.h>
 #include <UiElements/qml/DialogContext.h>
 #include <UiElements/qml/PopupContext.h>
@@ -245,13 +247,11 @@ void QmlPage::addPopups()
     m_timed = makeButton(tr("Close after %1 seconds").arg(SecondsOpen));
     m_timed->setToolTip(tr("Unless the pointer is over it"));
     m_timed->setCheckable(true);
-    auto *options = new QHBoxLayout;
-    options->setSpacing(8);
+    FlowLayout *options = nullptr;
+    column->addWidget(makeFlow(&options));
     options->addWidget(m_place);
     options->addWidget(m_alignment);
     options->addWidget(m_timed);
-    options->addStretch();
-    column->addLayout(options);
 
     const QStringList names {tr("Top, start"), tr("Top"),           tr("Top, end"), tr("Start"),      tr("Middle"),
                              tr("End"),        tr("Bottom, start"), tr("Bottom"),   tr("Bottom, end")};
@@ -317,14 +317,12 @@ void QmlPage::addWindows()
     QPushButton *ask = makeButton(tr("Open dialog"));
     QPushButton *open = makeButton(tr("Open window"));
     auto *answer = new Label(tr("No answer yet"), WFont::BodyTertiary, Label::Secondary);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(8);
+    FlowLayout *row = nullptr;
+    column->addWidget(makeFlow(&row));
+    row->setItemAlignment(FlowLayout::ItemAlignment::Center);
     row->addWidget(ask);
     row->addWidget(open);
-    row->addSpacing(8);
     row->addWidget(answer);
-    row->addStretch();
-    column->addLayout(row);
 
     m_question = {{QStringLiteral("title"), tr("Leave the space?")},
                   {QStringLiteral("text"), tr("You will no longer get its messages.")},

@@ -40,7 +40,7 @@ Item {
                 arrowAnchor: modelData.anchor
                 arrowAlignment: modelData.alignment
                 backgroundColor: Theme.colorSet("menu-background", root.themeType).normal
-                borderColor: Theme.colorSet("menu-border", root.themeType).normal
+                borderColor: Theme.colorSet("outline-primary", root.themeType).normal
 
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTr("Balloon, arrow: %1").arg(modelData.text)
