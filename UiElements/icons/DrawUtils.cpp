@@ -177,8 +177,7 @@ void DrawUtils::drawSvgIconText(QPainter *painter, const QRect &rect, const Icon
     painter->restore();
 }
 
-void DrawUtils::drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius,
-                              double width)
+void DrawUtils::drawFocusRect(QPainter *painter, const QRectF &rect, const QColor &color, double radius, double width)
 {
     if (!painter || !color.isValid() || rect.width() <= width || rect.height() <= width)
         return;
