@@ -17,7 +17,7 @@ void WQmlTypes::registerQmlTypes()
         return;
     isRegistered = true;
 
-    // // the application object does so, too: not every program has one
+    qRegisterMetaType<WColorSet>("WColorSet"); // the application object does so, too: not every program has one
     const char *const uri = "UiElements";
     qmlRegisterType<OverflowListProxyModel>(uri, 1, 0, "OverflowListProxyModel");
     qmlRegisterType<WQmlBalloon>(uri, 1, 0, "WBalloon");
