@@ -18,6 +18,9 @@
 
 namespace {
 
+// The pages are pictured at twice their size, for which a program is another one from its start.
+const bool isAtTwiceTheSize = qputenv("QT_SCALE_FACTOR", "2") && qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+
 const QString Config = QStringLiteral(UIELEMENTS_CONFIG_DIR);
 
 // What an element shows that is checked and has the focus: the focused color where it differs from the normal one.
