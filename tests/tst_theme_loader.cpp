@@ -439,6 +439,11 @@ void tst_ThemeLoader::faults_data()
     row("the first of several", light,
         "{\"tokens\": {\"z\": {\"normal\": \"\\\"}\"},\n\"b\": {\"normal\": 1, \"pressed\": \"x\"}}}",
         ":1:29: \"z.normal\": there is no color \"\"}\" (and 2 more)");
+    QByteArray many;
+    for (int i = 0; i < 30000; ++i) // finding the place of each would take minutes
+        many += ",\"k" + QByteArray::number(i).rightJustified(5, '0') + "\":{\"normal\":\"x\"}";
+    row("nothing but faults", light, "{\"tokens\":{" + many.mid(1) + "}}",
+        ":1:31: \"k00000.normal\": there is no color \"x\" (and 29999 more)");
     row("the opposite theme", "themes/dark.json", themeOf("x"), ":2:19: \"a.normal\": there is no color \"x\"");
     row("a theme that is not shown", "themes/high.json", themeOf("x"), ":2:19: \"a.normal\": there is no color \"x\"");
     row("no colors", colors, "{}", ":1:1: there is no array \"colors\"");

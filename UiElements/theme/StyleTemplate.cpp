@@ -230,7 +230,10 @@ void StyleTemplate::readDirectives(QString rest, int marks)
     const bool removed = rest.size() != before;
     if (removed)
         rest = rest.trimmed();
-    if (marks > 0 && rest.count(TokenMark) != marks) {
+    // A directive inside the value of another takes the ";" of both, and the token stays.
+    const bool isTokenInName = std::any_of(std::begin(m_directives.colorSetNames), std::end(m_directives.colorSetNames),
+                                           [](const QString &name) { return name.contains(TokenMark); });
+    if (marks > 0 && (isTokenInName || rest.count(TokenMark) != marks)) {
         m_twoPasses = true;
         return;
     }

@@ -134,15 +134,17 @@ private:
     {
         if (m_faults.empty())
             return false;
-        // The first in the file; names of color sets come in another order.
+        // The first in the file, because names of color sets come in another order. Of very many, one among these will do:
+        // to find a place takes reading the file.
+        constexpr std::size_t enough = 50;
         const QByteArray &bytes = m_files->at(path).bytes;
         int first = bytes.size() + 1;
         QString text;
-        for (const ThemeFault &fault : m_faults) {
-            const int offset = ThemeFilesPlace::offsetOf(bytes, fault.keys);
+        for (std::size_t i = 0; i < std::min<std::size_t>(m_faults.size(), enough); ++i) {
+            const int offset = ThemeFilesPlace::offsetOf(bytes, m_faults[i].keys);
             if (offset < first) {
                 first = offset;
-                text = fault.text;
+                text = m_faults[i].text;
             }
         }
         if (m_faults.size() > 1)
