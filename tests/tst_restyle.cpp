@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QStackedWidget>
+#include <QStyleFactory>
 #include <QStyleOption>
 #include <QTabWidget>
 
@@ -73,6 +74,17 @@ QString templateOf(const QString &letters)
                                  "QLineEdit { background-color: $(ground.pressed); border: 2px solid $(edge.hovered); }"
                                  "WFrame { border: 4px solid $(ground.checked); } "
                                  "#one { background-color: $(ground.focused); } #two { color: $(edge.focused); }");
+            break;
+        case 'S': // the same for classes only
+            css += QLatin1String("QLabel { color: $(text.normal); } WFrame, QRadioButton { border: 4px solid "
+                                 "$(ground.checked); } WFrame:disabled { background-color: $(edge.pressed); }");
+            break;
+        case 'U': // what is painted twice shows
+            css += QLatin1String("background-color: rgba(0, 90, 90, 100); border: 3px solid $(edge.hovered); "
+                                 "border-radius: 14px; color: $(text.normal); padding: 2px 6px;");
+            break;
+        case 'D':
+            css += QLatin1String("#three { background-color: $(edge.checked); } [toolTip=\"tip\"] { border: none; }");
             break;
         case 'X': css += QLatin1String("$backgroundColors: fixed; margin: 2px;"); break;
         case 'T': css += QLatin1String("$textColors: text;"); break;
@@ -209,6 +221,16 @@ public:
                 restyle();
             } else if (verb == QLatin1String("foreign")) {
                 widget->setStyleSheet(QStringLiteral("QFrame { border: 9px solid red; }"));
+            } else if (verb == QLatin1String("plainsheet")) {
+                widget->setStyleSheet(QStringLiteral("WFrame, QRadioButton { background-color: #123456; }"));
+            } else if (verb == QLatin1String("style")) {
+                static const std::unique_ptr<QStyle> windows(QStyleFactory::create(QStringLiteral("Windows")));
+                widget->setStyle(windows.get());
+            } else if (verb == QLatin1String("line")) {
+                qobject_cast<QFrame *>(widget)->setLineWidth(0);
+                widget->update();
+            } else if (verb == QLatin1String("scale")) {
+                WApplication::find()->setFontScaleFactor(value.toFloat() / 10);
             } else if (verb == QLatin1String("mark")) {
                 widget->setProperty("marked", true);
                 widget->update();
@@ -383,12 +405,13 @@ void tst_Restyle::states_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<int>("state");
-    QTest::addColumn<bool>("isLeaf");
+    QTest::addColumn<QString>("place");
     forEachThemedClass([](const char *name, const MakeWidget &) {
         for (int state = Normal; state < StateEnd; ++state) {
-            QTest::addRow("%s, %s, leaf", name, stateNames[state]) << QString::fromLatin1(name) << state << true;
-            QTest::addRow("%s, %s, with children", name, stateNames[state])
-                << QString::fromLatin1(name) << state << false;
+            for (const char *place : {"leaf", "with children", "among equals"}) {
+                QTest::addRow("%s, %s, %s", name, stateNames[state], place)
+                    << QString::fromLatin1(name) << state << QString::fromLatin1(place);
+            }
         }
     });
 }
@@ -398,16 +421,24 @@ void tst_Restyle::states()
 {
     QFETCH(QString, className);
     QFETCH(int, state);
-    QFETCH(bool, isLeaf);
+    QFETCH(QString, place);
     const bool isButton = className == QLatin1String("WRadioButton"), isMenu = className == QLatin1String("WMenu");
     const bool shows = isButton ? state != Normal : state == Disabled || state == Focused || state == Hovered;
     const QString both = shows && !isMenu ? QStringLiteral("shot:w state:#target=0 shot:w ") : QString();
     compare(QStringLiteral("outer<w:WFrame:FR plain<outer:QWidget"), [&](Stage &stage) {
-        QWidget *widget = create(className, nullptr);
-        widget->setParent(stage.at("plain"), Qt::Widget); // also what would be a window
-        stage.place(widget, QStringLiteral("#target"), templateOf(QStringLiteral("F")));
-        widget->setFixedSize(250, 180); // a menu would take the size of its entries
-        if (!isLeaf) {
+        const auto make = [&](const char *name, const QSize &size) {
+            QWidget *widget = create(className, nullptr);
+            widget->setParent(stage.at("plain"), Qt::Widget); // also what would be a window
+            stage.place(widget, QString::fromLatin1(name), templateOf(QStringLiteral("F")));
+            widget->setFixedSize(size); // a menu would take the size of its entries
+            return widget;
+        };
+        const bool hasEquals = place == QLatin1String("among equals");
+        QWidget *first = hasEquals ? make("#first", QSize(200, 100)) : nullptr;
+        QWidget *widget = make("#target", QSize(250, 180));
+        if (hasEquals)
+            make("#last", QSize(100, 30));
+        if (place == QLatin1String("with children")) {
             // The rules for its class in the template of the outer one hold for the same class inside, too.
             QWidget *same = create(className, nullptr);
             same->setParent(widget, Qt::Widget);
@@ -421,12 +452,18 @@ void tst_Restyle::states()
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window));
         setState(widget, Normal);
+        if (hasEquals)
+            setState(first, Normal);
         const QString enter = QStringLiteral(" state:#target=%1 ").arg(state),
                       leave = QStringLiteral(" state:#target=0 ");
         const QString look = QStringLiteral(" show:#target shot:w hide:#target ");
         stage.tell(QStringLiteral("0 1") + enter + both + leave + QStringLiteral("2") + enter + QStringLiteral("1")
                    + leave + QStringLiteral("2 hide:#target theme:1") + enter + look + QStringLiteral("theme:0") + enter
                    + leave + look);
+        if (hasEquals) {
+            const QString others = QStringLiteral("state:#first=0 1 state:#first=%1 %2state:#first=0 2").arg(state);
+            stage.tell(others.arg(shows && !isMenu ? QStringLiteral("shot:w 0 ") : QString()));
+        }
     });
 }
 
@@ -477,6 +514,34 @@ void tst_Restyle::stories_data()
     row("dialogs and menus of a shown window",
         "a<w:WFrame:FR b<a:QWidget c<b:WMenu:F d<a:WFrame:X e<d:QDialog f<e:WFrame:F g<e:QLabel",
         "show:w 0 shot:c 1 show:e shot:e shot:c theme:2 shot:e hide:e theme:1 show:e shot:e");
+
+    row("equals inside of others",
+        "a<w:WFrame:S c<a:WFrame:F d<a:WFrame:F e<a:WFrame:X f<e:WFrame:F h<e:WFrame:F #p<a:WFrame:D #q<#p:WFrame:T "
+        "#three<#p:WFrame:T i<#p:WFrame:T",
+        "show:w 0 1 off:d shot:w 2 off:h shot:w on:d shot:w off:i shot:w 1");
+    row("equals that show through",
+        "a<w:WFrame:S b<a:WFrame:U c<a:WFrame:U d<a:WRadioButton:U e<a:WRadioButton:U "
+        "f<a:WWidget:U g<a:WWidget:U",
+        "show:w 0 1 shot:c shot:e shot:g shot:w 2 hide:c theme:0 shot:c show:c shot:w");
+    row("equals at other sizes of fonts",
+        "a<w:WFrame:S b<a:WRadioButton:F c<a:WRadioButton:F d<a:WFrame:F e<a:WFrame:F",
+        "show:w 0 1 scale:=14 2 scale:=10 1");
+    for (const char *className : {"WFrame", "WRadioButton", "WWidget"}) {
+        const QByteArray equals = QByteArray("a<w:WFrame:S #m<a:C:F #n<a:C:F #o<a:C:F k<a:C:F l<a:C:F g<v:WFrame:F")
+                                      .replace(":C:", QByteArray(":") + className + ':');
+        for (const char *act : {"delete:W shot:w", "css:W=U shot:w", "rename:W=two", "foreign:W shot:w",
+                                "move:W=g shot:w", "off:W shot:w", "hide:W shot:w theme:0 show:W",
+                                "type:W=inverted shot:w", "add:x<W:QLabel", "state:W=2", "state:W=4", "state:W=5",
+                                "style:W", "plainsheet:w shot:w", "css:a=U shot:w", "css:a=XR shot:w rename:W=one"}) {
+            for (const char *who : {"#m", "#n", "l"}) {
+                const QByteArray story =
+                    QByteArray("show:w 0 1 ") + QByteArray(act).replace("W", who) + " 2 off:#o shot:w 1 shot:#o";
+                row(qPrintable(QStringLiteral("equal %1: %2 %3")
+                                   .arg(QLatin1String(className), QLatin1String(who), QLatin1String(act))),
+                    equals.constData(), story.constData());
+            }
+        }
+    }
 
     const QByteArray tree = "a<w:WFrame:FR b<a:WFrame:F p<a:QWidget c<p:WFrame:F d<c:QLabel e<c:WRadioButton:F "
                             "g<v:WFrame:FR h<g:WFrame:F";

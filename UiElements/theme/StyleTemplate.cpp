@@ -259,6 +259,7 @@ void StyleTemplate::readDirectives(QString rest, int marks)
     readRadius(radius.value);
     writeDirectives();
     writeRest(rest, removed);
+    readScope(rest);
 
     QString trailing = rest.trimmed();
     if (marks > 0) {
@@ -278,6 +279,40 @@ void StyleTemplate::readDirectives(QString rest, int marks)
     m_directives.trailingText = trailing;
     if (!borders.present)
         readWrittenBorders();
+}
+
+void StyleTemplate::readScope(QString rest)
+{
+    static const QRegularExpression quoted(QStringLiteral("\"[^\"{};\\[\\]]*\"|'[^'{};\\[\\]]*'"));
+    static const QRegularExpression attribute(QStringLiteral("\\[[^\\]{}]*\\]"));
+    static const QRegularExpression unusual(QStringLiteral("[\"'\\\\@]|/\\*|qproperty-"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression ofClass(QStringLiteral("\\A[A-Za-z]\\w*(::?!?[a-z-]+)*\\z"));
+    static const QRegularExpression ofSome(
+        QStringLiteral("(?:\\A|[\\s>])(?<class>\\*|[A-Za-z]\\w*)?(?:#(?<name>[\\w-]+))?(?:\\[\\])*(::?!?[a-z-]+)*\\z"));
+
+    m_scope.hasOwn = m_hasStateRules
+        || std::any_of(m_ops.begin(), m_ops.end(), [](const Op &op) { return op.kind == Op::Selector; });
+    rest.remove(quoted).replace(attribute, QStringLiteral("[]"));
+    m_scope.isKnown = !unusual.match(rest).hasMatch();
+    const QStringList parts = rest.split(QLatin1Char('{'));
+    for (int i = 0; m_scope.isKnown && i + 1 < parts.size(); ++i) {
+        const QString &part = parts.at(i);
+        m_scope.isKnown = i == 0 || part.contains(QLatin1Char('}'));
+        const int end = std::max(part.lastIndexOf(QLatin1Char('}')), part.lastIndexOf(QLatin1Char(';')));
+        const QStringList selectors = part.mid(end + 1).split(QLatin1Char(','));
+        for (const QString &one : selectors) {
+            const QString selector = one.trimmed();
+            if (ofClass.match(selector).hasMatch()) {
+                m_scope.classes.push_back(selector.section(QLatin1Char(':'), 0, 0).toLatin1());
+                continue;
+            }
+            const QRegularExpressionMatch match = ofSome.match(selector);
+            const QString className = match.captured(QStringLiteral("class"));
+            m_scope.some.push_back({className == QLatin1String("*") ? QByteArray() : className.toLatin1(),
+                                    match.captured(QStringLiteral("name"))});
+        }
+    }
 }
 
 // The style editor's border text stands in front as plain declarations; read back it is sides and a width again.

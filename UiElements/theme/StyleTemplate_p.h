@@ -2,6 +2,7 @@
 
 #include <UiElements/theme/ColorTable_p.h>
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -50,6 +51,24 @@ public:
     /// Differs between any two texts that one template has been expanded to for one selector. Equal colors in another
     /// table give the number that they had before. 0 for the templates of needsTwoPasses(), which are not remembered.
     quint64 contentFor(const ColorTable &table) const;
+
+    /// True when an expansion against the table has nothing to report.
+    bool isQuiet(const ColorTable &table) const { return !m_twoPasses && !m_troubled && resolve(table).complete; }
+
+    /// For which widgets the rules are.
+    struct Scope
+    {
+        struct Some
+        {
+            QByteArray className; ///< empty: of any class
+            QString name; ///< empty: of any name
+        };
+        bool isKnown = true; ///< false: for nobody knows which, or they do more to a widget than give it a look
+        bool hasOwn = false; ///< rules for the selector
+        std::vector<QByteArray> classes; ///< rules for all of a class
+        std::vector<Some> some; ///< rules for some of these at most
+    };
+    const Scope &scope() const { return m_scope; }
 
     /// The color sets that an expansion looks up.
     const std::vector<std::string> &setNames() const { return m_setNames; }
@@ -110,6 +129,7 @@ private:
     void readBorders(const QString &value, bool present, const QString &width);
     void readRadius(const QString &value);
     void readWrittenBorders();
+    void readScope(QString rest);
     void writeDirectives();
     void writeRest(const QString &rest, bool wrapDeclarations);
     int slotOf(const QString &setName);
@@ -129,6 +149,7 @@ private:
     std::unordered_map<std::string, int> m_slots; ///< index in m_setNames; empty once the text is read
     std::vector<Token> m_tokens;
     Directives m_directives;
+    Scope m_scope;
     int m_directiveSet[3] = {-1, -1, -1};
     int m_gradientSet[2] = {-1, -1};
     std::vector<std::pair<const char *, QString>> m_faults; ///< message and directive

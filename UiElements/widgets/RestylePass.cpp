@@ -1,8 +1,10 @@
 #include "RestylePass_p.h"
 
+#include "SharedLook_p.h"
 #include "ThemeSupport.h"
 
 #include <UiElements/app/IWApplication.h>
+#include <UiElements/theme/WThemeUtils_p.h>
 
 #include <algorithm>
 #include <utility>
@@ -25,6 +27,19 @@ std::vector<std::vector<ThemeSupport *> *> &runningPasses()
 {
     static std::vector<std::vector<ThemeSupport *> *> passes;
     return passes;
+}
+
+// Those of the last pass, as long as there are no others.
+std::vector<ThemeSupport *> &allThemed()
+{
+    static std::vector<ThemeSupport *> all;
+    return all;
+}
+
+std::size_t &createdCount()
+{
+    static std::size_t count = 0;
+    return count;
 }
 
 struct Scopes
@@ -95,22 +110,45 @@ void RestylePass::ensure()
 void RestylePass::run()
 {
     const RestyleScope scope(RestyleScope::Whole);
-    std::vector<ThemeSupport *> themed;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        if (!window->parentWidget())
-            collect(window, &themed);
+    const auto generation = [](WThemeUtils::AppThemeType type) {
+        return WThemeUtilsPrivate::colorTable(type)->generation();
+    };
+    const std::pair<quint64, quint64> generations {generation(WThemeUtils::AppThemeTypeGlobal),
+                                                   generation(WThemeUtils::AppThemeTypeInverted)};
+    // Announced without a change: nobody gets other colors, so neither their order matters nor what they have in
+    // common.
+    const bool isNew = std::exchange(m_generations, generations) != generations;
+    std::vector<ThemeSupport *> themed = std::exchange(allThemed(), {});
+    if (isNew || themed.empty()) {
+        themed.clear();
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (QWidget *window : windows) {
+            if (!window->parentWidget())
+                collect(window, &themed);
+        }
     }
+    const std::size_t created = createdCount();
     runningPasses().push_back(&themed);
+    if (isNew)
+        SharedLook::restyle(themed);
     for (std::size_t i = 0; i < themed.size(); ++i) {
         if (themed[i])
             themed[i]->answerThemeChange();
     }
     runningPasses().pop_back();
+    if (created == createdCount() && std::find(themed.begin(), themed.end(), nullptr) == themed.end())
+        allThemed() = std::move(themed);
+}
+
+void RestylePass::noteCreation()
+{
+    ++createdCount();
+    allThemed().clear();
 }
 
 void RestylePass::forget(const ThemeSupport *support)
 {
+    allThemed().clear();
     for (std::vector<ThemeSupport *> *themed : runningPasses())
         std::replace(themed->begin(), themed->end(), const_cast<ThemeSupport *>(support),
                      static_cast<ThemeSupport *>(nullptr));

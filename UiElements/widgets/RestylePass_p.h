@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <utility>
 #include <vector>
 
 class ThemeSupport;
@@ -28,11 +29,15 @@ public:
     /// another template meanwhile: a destroyed one is passed over, a new one has the new colors already.
     void run();
 
+    /// To be told of each themed widget that comes into being.
+    static void noteCreation();
     /// To be told of each that is destroyed: a pass that is on its way passes it over.
     static void forget(const ThemeSupport *support);
 
 private:
     explicit RestylePass(QObject *parent);
+
+    std::pair<quint64, quint64> m_generations; ///< of the colors of the last pass
 };
 
 /// Qt's setStyleSheet() polishes all that is below the widget, twice, and in a window in which most widgets have a

@@ -1,6 +1,8 @@
 #include <UiElements/widgets/ThemeSupport.h>
 
 #include "RestylePass_p.h"
+#include "StyleEngine_p.h"
+#include "ThemeSupport_p.h"
 #include "ThemedAccessible_p.h"
 
 #include <UiElements/app/WApplication.h>
@@ -19,6 +21,7 @@
 #include <QLayout>
 #include <QPointer>
 #include <QStyle>
+#include <QStyleOption>
 #include <QWidget>
 
 #include <algorithm>
@@ -31,41 +34,6 @@ QHash<const QWidget *, ThemeSupport *> &supports()
     static QHash<const QWidget *, ThemeSupport *> all;
     return all;
 }
-
-// While this is not zero, whoever reads the property "styleSheet" is Qt's style engine.
-int engineReads = 0;
-// How often the engine has been given the expanded text.
-quint64 expandedTextsRead = 0;
-
-class EngineReads
-{
-public:
-    EngineReads() { ++engineReads; }
-    ~EngineReads() { --engineReads; }
-    EngineReads(const EngineReads &) = delete;
-    EngineReads &operator=(const EngineReads &) = delete;
-};
-
-// Qt's style sheet style refuses, and hands over to its base style, every call made while another instance of it is at
-// work. So a widget with a border that no base style draws tells whether one is.
-class EngineProbe
-{
-public:
-    static bool engineIsAtWork()
-    {
-        static EngineProbe probe;
-        if (!probe.m_frame) {
-            probe.m_frame = new QFrame;
-            probe.m_frame->setObjectName(QStringLiteral("uielements_engine_probe"));
-            probe.m_frame->setStyleSheet(QStringLiteral("QFrame { border: 77px solid black; }"));
-            qAddPostRoutine([] { delete probe.m_frame; });
-        }
-        return probe.m_frame->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, probe.m_frame) != 77;
-    }
-
-private:
-    QPointer<QFrame> m_frame;
-};
 
 QMargins mirroredFor(const QWidget *widget, const QMargins &margins)
 {
@@ -90,81 +58,16 @@ void collectBelowPlain(const QWidget *widget, bool throughPlain, std::vector<QPo
 
 } // namespace
 
-class ThemeSupport::Private
-{
-public:
-    Private(ThemeSupport *s, QWidget *w, const Hooks *h)
-        : support(*s)
-        , widget(w)
-        , hooks(h)
-    {
-    }
-
-    WThemeUtils::AppThemeType effectiveType() const;
-    void followParent();
-    void announceThemeType();
-    void noticeThemeType();
-    void take(const StyleTemplate::Directives &directives);
-    void expandInTwoPasses(const ColorTable &table);
-    bool isUpToDate(const StyleTemplate *from, quint64 content) const;
-    void give(const QString &text, bool isOnlyColors);
-    void giveColors();
-    void noticeForeignSheet();
-    void setSheetOfThisOnly(const QString &sheet);
-    bool canBeShort() const;
-    bool isInNormalState() const;
-    bool hasToWait() const { return isPolished && !widget->isVisible(); }
-
-    ThemeSupport &support;
-    QWidget *const widget;
-    const Hooks *const hooks;
-    bool attached = false;
-    const QMetaObject *ownClass = nullptr; // the one that called attach()
-
-    QString css;
-    std::shared_ptr<const StyleTemplate> source; // of css, once it was expanded
-    // What was expanded last: from which template, and what came of it. Empty: nothing came of any so far.
-    std::shared_ptr<const StyleTemplate> expanded;
-    quint64 content = 0;
-    QString text;
-    QString shortText; // what Qt's style engine is told instead, if anything
-    bool isWaiting = false; // to be given to Qt
-    QString replaced; // by what waits
-    bool isAncestorNewer = false; // than what the widget was polished with
-    bool isPolished = false; // was shown, or measured
-    bool isGettingColors = false;
-
-    QString colorSetNames[3];
-    QString trailingText;
-    int borderWidth = 0;
-    int borderRadius = 0;
-    bool hasFocusProperties = false;
-    bool drawsOwnBox = false;
-    WThemeUtils::AppThemeType ownType = WThemeUtils::AppThemeTypeGlobal;
-    WThemeUtils::AppThemeType shownType = WThemeUtils::AppThemeTypeGlobal;
-
-    WFont::Token fontToken = WFont::Default;
-    FontManagerEnum::FontType fontType = FontManagerEnum::Default;
-    QAccessible::Role role = QAccessible::NoRole;
-    QString elementUniqueId;
-    std::unique_ptr<QMargins> margins;
-    std::unique_ptr<QMargins> layoutMargins;
-
-    QMetaObject::Connection nameConnection;
-    QMetaObject::Connection parentConnection;
-    QMetaObject::Connection fontConnection;
-    QPointer<WScaledFonts> scaledFonts;
-    QFont givenFont, resultingFont;
-};
-
 ThemeSupport::ThemeSupport(QWidget *widget, const Hooks *hooks)
     : d(std::make_unique<Private>(this, widget, hooks))
 {
     supports().insert(widget, this);
+    RestylePass::noteCreation();
 }
 
 ThemeSupport::~ThemeSupport()
 {
+    d->leaveLook();
     StyledBelow::putBackBelow(d->widget);
     StyledBelow::putBack(d->widget);
     supports().remove(d->widget);
@@ -197,6 +100,7 @@ void ThemeSupport::attach()
         ThemedAccessible::replaceEarlyInterface(d->widget);
     d->nameConnection = QObject::connect(d->widget, &QObject::objectNameChanged, d->widget, [this] {
         d->expanded.reset();
+        d->leaveLook();
         setCss(QString(d->css));
     });
     // By name: the slots are those of the widget's own class, which this code does not know.
@@ -251,9 +155,20 @@ bool ThemeSupport::follow(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::Polish: d->isPolished = true; break;
-    case QEvent::StyleChange: return d->isGettingColors;
-    case QEvent::Paint: preparePainting(); break;
+    case QEvent::StyleChange:
+        if (d->isGettingColors)
+            return true;
+        d->leaveLook();
+        d->isUnread = false; // Qt has polished it
+        break;
+    case QEvent::Paint:
+        preparePainting();
+        d->isInPaintEvent = true;
+        if (d->leavesBackground)
+            d->widget->setAttribute(Qt::WA_StyledBackground);
+        break;
     case QEvent::ChildAdded:
+        d->leaveLook();
         // Rules for a class hold for what is inside, too, and that has states of its own.
         if (!d->shortText.isEmpty()) {
             d->shortText.clear();
@@ -262,6 +177,7 @@ bool ThemeSupport::follow(QEvent *event)
         break;
     case QEvent::ParentAboutToChange: StyledBelow::putBack(d->widget); break;
     case QEvent::ParentChange:
+        d->leaveLook();
         if (!d->attached)
             break;
         if (d->drawsOwnBox)
@@ -290,6 +206,37 @@ void ThemeSupport::preparePainting()
     // A picture may be taken of a hidden widget.
     if (d->isWaiting || d->isAncestorNewer || !d->widget->isVisible())
         showNewColors(d->widget);
+    if (d->isInPaintEvent)
+        return;
+    const bool isBorrowing = model();
+    if (d->isUnread && !isBorrowing)
+        d->readByEngine();
+    // Qt would draw it by the widget's own rules.
+    if (isBorrowing && d->widget->testAttribute(Qt::WA_StyledBackground)
+        && !d->widget->testAttribute(Qt::WA_NoSystemBackground) && !d->widget->testAttribute(Qt::WA_OpaquePaintEvent)) {
+        d->leavesBackground = true;
+        d->widget->setAttribute(Qt::WA_StyledBackground, false);
+    }
+}
+
+void ThemeSupport::endPainting()
+{
+    d->isInPaintEvent = d->leavesBackground = false;
+}
+
+void ThemeSupport::drawBackground(QPainter *painter)
+{
+    if (!d->leavesBackground)
+        return;
+    const QWidget *by = model() ? model() : d->widget;
+    QStyleOption option;
+    option.initFrom(d->widget);
+    by->style()->drawPrimitive(QStyle::PE_Widget, &option, painter, by);
+}
+
+void ThemeSupport::setBorrows()
+{
+    d->borrows = true;
 }
 
 void ThemeSupport::setDrawsOwnBox()
@@ -328,12 +275,18 @@ void ThemeSupport::refresh()
     }
     const quint64 content = source->contentFor(*table);
     if (d->isUpToDate(source.get(), content)) {
-        RestyleScope::count(&RestyleReport::unchanged);
+        if (!std::exchange(d->isCounted, false))
+            RestyleScope::count(&RestyleReport::unchanged);
         d->hooks->cssChanged(d->widget);
         return;
     }
     // Unless somebody gave the widget another sheet, past this class.
     const bool isOnlyColors = d->expanded == source && (d->isWaiting || d->widget->styleSheet() == d->text);
+    if (isOnlyColors && RestyleScope::isOpen() && d->hasToWait() && source->isQuiet(*table)) {
+        d->postpone(content);
+        d->hooks->cssChanged(d->widget);
+        return;
+    }
     const QString selector = WThemeUtilsPrivate::selectorOf(d->widget);
     const QString text = source->expand(selector, *table);
     d->take(source->directives());
@@ -358,7 +311,7 @@ void ThemeSupport::Private::expandInTwoPasses(const ColorTable &table)
         return;
     expanded.reset();
     shortText.clear();
-    if (text != expandedText || widget->styleSheet() != expandedText || isAncestorNewer)
+    if (isWaiting || text != expandedText || widget->styleSheet() != expandedText || isAncestorNewer)
         give(expandedText, false);
     else
         RestyleScope::count(&RestyleReport::unchanged);
@@ -373,11 +326,14 @@ bool ThemeSupport::Private::isUpToDate(const StyleTemplate *from, quint64 newCon
 
 void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
 {
+    leaveLook();
     text = newText;
+    isTextDue = false;
     widget->setAttribute(Qt::WA_StyledBackground);
     if (isOnlyColors) {
+        if (!isWaiting)
+            replaced = widget->styleSheet();
         isWaiting = true;
-        replaced = widget->styleSheet();
         if (RestyleScope::isOpen() && hasToWait()) {
             RestyleScope::count(&RestyleReport::deferred);
             RestyleScope::noteHidden();
@@ -389,29 +345,124 @@ void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
         setSheetOfThisOnly(text);
     } else if (widget->styleSheet() != text || isAncestorNewer) {
         RestyleScope::count(&RestyleReport::restyled);
-        isWaiting = isAncestorNewer = false;
-        const EngineReads reading;
+        isWaiting = isAncestorNewer = isUnread = false;
+        const StyleEngine::Reads reading;
         widget->setStyleSheet(text);
         support.applyMargins(); // a tree takes those of its frame after its last style event
     }
+}
+
+// There may be many hidden pages; the text is made when it is needed.
+void ThemeSupport::Private::postpone(quint64 newContent)
+{
+    leaveLook();
+    if (!isWaiting)
+        replaced = widget->styleSheet();
+    isWaiting = isTextDue = true;
+    content = newContent;
+    RestyleScope::count(&RestyleReport::deferred);
+    RestyleScope::noteHidden();
+}
+
+void ThemeSupport::Private::makeText()
+{
+    if (!std::exchange(isTextDue, false) || !expanded)
+        return;
+    const auto table = WThemeUtilsPrivate::colorTable(shownType);
+    const QString selector = WThemeUtilsPrivate::selectorOf(widget);
+    content = expanded->contentFor(*table);
+    shortText = canBeShort() ? expanded->expandNormal(selector, *table) : QString();
+    text = expanded->expand(selector, *table);
 }
 
 // The widget stays as large as it is, so neither it nor what is below has to be laid out anew.
 void ThemeSupport::Private::giveColors()
 {
     RestyleScope::count(&RestyleReport::restyled);
+    leaveLook();
     noticeForeignSheet();
+    makeText();
     isGettingColors = true;
     setSheetOfThisOnly(isWaiting ? text : widget->styleSheet());
     isGettingColors = false;
     widget->update();
 }
 
+ThemeSupport::Private::Need ThemeSupport::Private::need(const ColorTable &table, quint64 *newContent) const
+{
+    const QString &sheet = widget->styleSheet();
+    if (sheet.isEmpty() && !source)
+        return None;
+    const bool isSettled = attached && source && expanded == source && isPolished && !isWaiting && !isAncestorNewer
+        && widget->isVisible() && shownType == effectiveType() && sheet == text;
+    if (!isSettled || !source->isQuiet(table))
+        return Other;
+    *newContent = source->contentFor(table);
+    return *newContent == content ? Same : Colors;
+}
+
+// Stored only: Qt's style engine is kept from looking at it now.
+void ThemeSupport::Private::setNewText(const QString &newText, quint64 newContent)
+{
+    text = newText;
+    content = newContent;
+    shortText.clear();
+    isGettingColors = true;
+    setSheetOfThisOnly(text);
+    isGettingColors = false;
+    isUnread = true;
+}
+
+void ThemeSupport::Private::leaveLook()
+{
+    if (look && look->model == widget)
+        look->model.clear();
+    look.reset();
+}
+
+// The engine asks for the sheet now, and is told what it needs; in the middle of the painting it would get the same,
+// but ask twice.
+void ThemeSupport::Private::readByEngine()
+{
+    isUnread = false;
+    if (canBeShort()) {
+        const auto table = WThemeUtilsPrivate::colorTable(shownType);
+        if (source->contentFor(*table) == content)
+            shortText = source->expandNormal(WThemeUtilsPrivate::selectorOf(widget), *table);
+    }
+    QStyleOption option;
+    option.initFrom(widget);
+    const StyleEngine::Reads reading;
+    widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, widget);
+}
+
+const QWidget *ThemeSupport::model() const
+{
+    const QWidget *model = d->look ? d->look->model.data() : nullptr;
+    const QWidget *widget = d->widget;
+    if (!model || !d->borrows || model == widget || widget->metaObject() != d->ownClass
+        || widget->testAttribute(Qt::WA_SetStyle) || model->testAttribute(Qt::WA_SetStyle)
+        || widget->autoFillBackground() != model->autoFillBackground())
+        return nullptr;
+    // Whether the pointer is over its part that can be clicked only the button knows.
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    if (button && (!button->icon().isNull() || button->underMouse()))
+        return nullptr;
+    // Of frames the engine looks at this, too.
+    const auto *frame = qobject_cast<const QFrame *>(widget);
+    if (frame && (frame->lineWidth() == 0) != (static_cast<const QFrame *>(model)->lineWidth() == 0))
+        return nullptr;
+    return model;
+}
+
 // A sheet that was set past this class after the colors changed stays until the next expansion.
 void ThemeSupport::Private::noticeForeignSheet()
 {
-    if (isWaiting && widget->styleSheet() != replaced)
-        isWaiting = false;
+    if (!isWaiting || widget->styleSheet() == replaced)
+        return;
+    isWaiting = false;
+    if (std::exchange(isTextDue, false))
+        expanded.reset();
 }
 
 // Qt reads and sorts the rules of each widget anew whenever their colors change, and that is most of the time a switch
@@ -439,6 +490,7 @@ void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
 {
     isWaiting = isAncestorNewer = false;
     replaced.clear();
+    isUnread = false;
     const RestyleScope scope;
     const StyledBelow below(widget);
     for (const QPointer<QWidget> &child : below.widgets()) {
@@ -448,7 +500,7 @@ void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
             RestyleScope::add(child);
         }
     }
-    const EngineReads reading;
+    const StyleEngine::Reads reading;
     widget->setStyleSheet(sheet);
 }
 
@@ -495,12 +547,12 @@ void ThemeSupport::applyTheme()
 
 void ThemeSupport::beginEngineReads()
 {
-    ++engineReads;
+    StyleEngine::beginReads();
 }
 
 void ThemeSupport::endEngineReads()
 {
-    --engineReads;
+    StyleEngine::endReads();
 }
 
 // Qt's style engine takes the sheet of a widget, and of each of its ancestors, from the property "styleSheet" and not
@@ -510,8 +562,8 @@ void ThemeSupport::endEngineReads()
 // made to parse the expanded text first; after that the template does no harm, whoever it was that asked.
 QString ThemeSupport::styleSheetProperty() const
 {
-    if (engineReads > 0) {
-        ++expandedTextsRead;
+    if (StyleEngine::isReading()) {
+        ++StyleEngine::textsRead();
         const QString sheet = d->widget->styleSheet();
         return !d->shortText.isEmpty() && sheet == d->text ? d->shortText : sheet;
     }
@@ -521,13 +573,13 @@ QString ThemeSupport::styleSheetProperty() const
     // The look outlives an emptied template, and to the engine an empty answer would mean that there is no sheet.
     if (d->css.isEmpty())
         return sheet;
-    const quint64 before = expandedTextsRead;
+    const quint64 before = StyleEngine::textsRead();
     {
-        const EngineReads reading;
+        const StyleEngine::Reads reading;
         d->widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, d->widget);
     }
     // Nothing was read: the sheet is parsed already, or the engine, busy elsewhere, would not look at this widget.
-    const bool parsed = expandedTextsRead != before || !EngineProbe::engineIsAtWork();
+    const bool parsed = StyleEngine::textsRead() != before || !StyleEngine::isAtWork();
     return parsed ? d->css : sheet;
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 
 class QEvent;
+class QPainter;
 class QWidget;
 
 /// The behaviour shared by all themed widgets. Each widget holds one as a private member of Themed, which forwards.
@@ -57,6 +58,15 @@ public:
     static void showNewColors(QWidget *widget);
     /// To be called before anything of the widget is painted, its background, too.
     void preparePainting();
+    /// To be called after the paint event.
+    void endPainting();
+    /// The class paints with model(), and draws drawBackground() first. Those derived from it do not.
+    void setBorrows();
+    /// The widget by whose rules, with its style, this one is to be drawn instead of its own: it looks the same, and
+    /// Qt's style engine knows it already. Null where there is none.
+    const QWidget *model() const;
+    /// What Qt has left to the paint event.
+    void drawBackground(QPainter *painter);
     /// Polishes the widget if the sheet of an ancestor changed and it was not polished since. If it is hidden, that
     /// waits until it is shown.
     void polishIfNeeded();
@@ -97,6 +107,7 @@ public:
     void applyMargins();
 
 private:
+    friend class SharedLook;
     class Private;
     const std::unique_ptr<Private> d;
 };

@@ -100,6 +100,8 @@ protected:
         const bool handled = Base::event(event);
         if (polishes)
             ThemeSupport::endEngineReads();
+        if (type == QEvent::Paint)
+            m_theme.endPainting();
         // A frame lays its margins anew for each of these.
         if (type == QEvent::LayoutDirectionChange || type == QEvent::StyleChange)
             m_theme.applyMargins();

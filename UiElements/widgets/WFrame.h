@@ -18,4 +18,7 @@ public:
 
     W_THEME_SIGNALS
     W_THEME_SLOTS
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -19,4 +19,7 @@ public:
 
     W_THEME_SIGNALS
     W_THEME_SLOTS
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 };

@@ -7,6 +7,7 @@ WWidget::WWidget(QWidget *parent, Qt::WindowFlags flags)
     : Themed(parent, flags)
 {
     initTheme();
+    theme().setBorrows();
 }
 
 void WWidget::setPixmapSrc(const QString &path)
@@ -24,6 +25,10 @@ void WWidget::setPixmapSrc(const QString &path)
 void WWidget::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
+    if (theme().model()) {
+        QPainter painter(this);
+        theme().drawBackground(&painter);
+    }
     if (m_pixmap.isNull())
         return;
     const QRectF area = contentsRect();
