@@ -8,6 +8,8 @@
 #include "SampleThemes.h"
 
 #include <UiElements/app/WApplication.h>
+#include <UiElements/controls/WEmojiLabel.h>
+#include <UiElements/controls/WPushButton.h>
 #include <UiElements/widgets/WFrame.h>
 #include <UiElements/widgets/WRadioButton.h>
 
@@ -33,7 +35,7 @@ struct Shape
     int depth = 6; // levels of themed widgets
     int branches = 3;
     int trees = 1; // beside each other
-    bool isPages = false; // or on top of each other, one of them visible
+    enum Kind { Beside, Pages, Client } kind = Beside; ///< pages lie on top of each other, one of them visible
 };
 
 const char Switch[] = "switch";
@@ -49,7 +51,8 @@ struct Themed
 {
     QWidget *widget;
     QString selector;
-    samples::Look look;
+    samples::Look look; // with a template of the samples
+    QString css;
 };
 
 class Window
@@ -61,16 +64,20 @@ public:
         : m_kind(kind)
         , m_shape(shape)
     {
+        root.resize(1600, 1000);
+        if (shape.kind == Shape::Client) {
+            addClient();
+            return;
+        }
         int frames = 0;
         for (int level = 0, width = 1; level < shape.depth - 1; ++level, width *= shape.branches) {
             frames += width;
             m_innermost = width;
         }
         m_leaves = shape.widgets - frames;
-        root.resize(1600, 1000);
         auto *layout = new QHBoxLayout(&root);
         layout->setContentsMargins(0, 0, 0, 0);
-        auto *pages = shape.isPages ? new QStackedWidget : nullptr;
+        auto *pages = shape.kind == Shape::Pages ? new QStackedWidget : nullptr;
         if (pages)
             layout->addWidget(pages);
         for (int tree = 0; tree < shape.trees; ++tree) {
@@ -108,8 +115,80 @@ private:
             widget->setObjectName(QStringLiteral("item_%1").arg(themed.size()));
             selector = QLatin1Char('#') + widget->objectName();
         }
-        themed.push_back({widget, selector, look});
+        themed.push_back({widget, selector, look, samples::widgetTemplate(look)});
         return widget;
+    }
+
+    // The same classes in both ways: a messaging client with all its conversations and messages in view.
+    template <typename Widget>
+    Widget *add(QWidget *parent, QGridLayout *into, int index, int columns, const char *css, const char *name = "")
+    {
+        auto *widget = new Widget(parent);
+        widget->setObjectName(QString::fromLatin1(name));
+        widget->setMinimumSize(1, 1);
+        widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+        if (into)
+            into->addWidget(widget, index / columns, index % columns);
+        const QString selector =
+            *name ? QLatin1Char('#') + widget->objectName() : QString::fromLatin1(widget->metaObject()->className());
+        themed.push_back({widget, selector, samples::Panel, QString::fromLatin1(css)});
+        return widget;
+    }
+    static QGridLayout *gridIn(QWidget *widget)
+    {
+        auto *grid = new QGridLayout(widget);
+        grid->setContentsMargins(2, 2, 2, 2);
+        grid->setSpacing(1);
+        return grid;
+    }
+    void addClient()
+    {
+        const char section[] = "$borders: right; $borderWidth: 1; $borderColors: outline-secondary; "
+                               "WFrame { background: transparent; }";
+        const char row[] = "$backgroundColors: background-secondary; $borderRadius: 6;";
+        const char own[] = "$backgroundColors: button-primary-background; $borderRadius: 12; "
+                           "#own:hover { background-color: $(button-primary-background.normal); }";
+        const char others[] = "$backgroundColors: background-secondary; $borderColors: outline-secondary; "
+                              "$borders: all; $borderWidth: 1; $borderRadius: 12;";
+        const char text[] = "$textColors: text-primary; WLabel { background: transparent; }";
+        const char lesser[] = "$textColors: text-secondary; WLabel { background: transparent; }";
+        const char button[] = "$backgroundColors: button-secondary-background; $borderColors: button-secondary-border; "
+                              "$textColors: button-secondary-text; $borders: all; $borderWidth: 1; $borderRadius: 6;";
+        auto *shellLayout = gridIn(&root);
+        auto *shell = add<WFrame>(&root, shellLayout, 0, 1, "$backgroundColors: background-primary;", "shell");
+        auto *sections = gridIn(shell);
+        sections->setColumnStretch(1, 8);
+        sections->setColumnStretch(2, 12);
+
+        auto *navigation = add<WFrame>(shell, sections, 0, 4, section, "section");
+        auto *tabs = gridIn(navigation);
+        for (int i = 0; i < 16; ++i)
+            add<WPushButton>(navigation, tabs, i, 1, button)->setText(QStringLiteral("Tab"));
+        auto *spaces = add<WFrame>(shell, sections, 1, 4, section, "section");
+        auto *list = gridIn(spaces);
+        for (int i = 0; i < 243; ++i) {
+            auto *space = add<WFrame>(spaces, list, i, 9, row, "space");
+            auto *cells = gridIn(space);
+            add<WLabel>(space, cells, 0, 3, text)->setText(QStringLiteral("Ann Lee"));
+            add<WLabel>(space, cells, 1, 3, lesser)->setText(QStringLiteral("10:24"));
+            add<WPushButton>(space, cells, 2, 3, button)->setText(QStringLiteral("2"));
+        }
+        auto *messages = add<WFrame>(shell, sections, 2, 4, section, "section");
+        auto *column = gridIn(messages);
+        for (int i = 0; i < 248; ++i) {
+            auto *all = new QWidget(messages);
+            column->addWidget(all, i / 8, i % 8);
+            auto *message = gridIn(all);
+            add<WLabel>(all, message, 0, 1, lesser)->setText(QStringLiteral("You   10:24"));
+            auto *bubble =
+                i % 2 ? add<WFrame>(all, message, 1, 1, own, "own") : add<WFrame>(all, message, 1, 1, others, "others");
+            add<WEmojiLabel>(bubble, gridIn(bubble), 0, 1, text)->setText(QStringLiteral("See you \U0001F600"));
+            add<WLabel>(all, message, 2, 1, lesser)->setText(QStringLiteral("Read"));
+        }
+        auto *call = add<WFrame>(shell, sections, 3, 4, section, "section");
+        auto *controls = gridIn(call);
+        for (int i = 0; i < 15; ++i)
+            add<WPushButton>(call, controls, i, 1, button)->setText(QStringLiteral("Mute"));
     }
 
     void addFrame(QWidget *parent, QBoxLayout *into, int level)
@@ -175,12 +254,12 @@ QPalette paletteOf(const WColorSets &sets)
 
 void styleWithTemplate(const Themed &themed, const WColorSets &)
 {
-    themed.widget->setProperty("styleSheet", samples::widgetTemplate(themed.look));
+    themed.widget->setProperty("styleSheet", themed.css);
 }
 
 void styleLiterally(const Themed &themed, const WColorSets &sets)
 {
-    themed.widget->setStyleSheet(samples::expandLiterally(themed.selector, samples::widgetTemplate(themed.look), sets));
+    themed.widget->setStyleSheet(samples::expandLiterally(themed.selector, themed.css, sets));
 }
 
 // The rules of all templates; the look is a property of the widget.
@@ -213,7 +292,14 @@ const Way Ways[] = {
      },
      [](Window &, const WColorSets &sets) { static_cast<IWApplication *>(qApp)->setColorSets(sets); },
      styleWithTemplate},
-    {"literal", Window::Plain, [](Window &) {},
+    {"literal", Window::Plain,
+     [](Window &window) {
+         // As our classes do; here they have no template.
+         for (const Themed &themed : window.themed) {
+             if (ThemeSupport::of(themed.widget))
+                 themed.widget->setAttribute(Qt::WA_StyledBackground);
+         }
+     },
      [](Window &window, const WColorSets &sets) {
          for (const Themed &themed : window.themed)
              styleLiterally(themed, sets);
@@ -264,7 +350,7 @@ public:
                     .arg(shape.depth)
                     .arg(shape.branches)
                     .arg(shape.trees)
-                    .arg(shape.isPages))
+                    .arg(int(shape.kind)))
     {
     }
     ~Peer()
@@ -303,6 +389,7 @@ const QLatin1String ApplicationSheet("application sheet, same rules");
 const QLatin1String Depth4("library, depth 4"), Depth8("library, depth 8");
 const QLatin1String Fivefold("library, 5,000 widgets");
 const QLatin1String Pages("library, ten pages"), LiteralPages("literal, ten pages");
+const QLatin1String Client("library, messaging client"), LiteralClient("literal, messaging client");
 const QLatin1String First("library, first styling"), LiteralFirst("literal, first styling");
 const QLatin1String Calls("library, heap calls"), AllowedCalls("300 calls");
 const QLatin1String KiB("library, KiB"), AllowedKiB("9 KiB");
@@ -315,7 +402,7 @@ int bench::runThemeSwitchProcess(int argc, char **argv)
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QStringList words = QString::fromLocal8Bit(argv[2]).split(QLatin1Char('/'));
     const Shape shape {words.value(1).toInt(), words.value(2).toInt(), words.value(3).toInt(), words.value(4).toInt(),
-                       words.value(5).toInt() != 0};
+                       Shape::Kind(words.value(5).toInt())};
     const Way *way = nullptr;
     for (const Way &candidate : Ways) {
         if (words.first() == QLatin1String(candidate.name))
@@ -379,8 +466,10 @@ bench::Subject bench::themeSwitch()
     const auto depth4 = std::make_shared<Peer>("library", Shape {1000, 4, 10});
     const auto depth8 = std::make_shared<Peer>("library", Shape {1000, 8, 2});
     const auto fivefold = std::make_shared<Peer>("library", Shape {1000, 6, 3, 5});
-    const auto pages = std::make_shared<Peer>("library", Shape {100, 6, 2, 10, true});
-    const auto literalPages = std::make_shared<Peer>("literal", Shape {100, 6, 2, 10, true});
+    const auto pages = std::make_shared<Peer>("library", Shape {100, 6, 2, 10, Shape::Pages});
+    const auto literalPages = std::make_shared<Peer>("literal", Shape {100, 6, 2, 10, Shape::Pages});
+    const auto client = std::make_shared<Peer>("library", Shape {2000, 6, 3, 1, Shape::Client});
+    const auto literalClient = std::make_shared<Peer>("literal", Shape {2000, 6, 3, 1, Shape::Client});
     const auto asked = [](const std::shared_ptr<Peer> &peer, const char *command) {
         return [peer, command] {
             return peer->ask(command);
@@ -392,7 +481,7 @@ bench::Subject bench::themeSwitch()
     subject.rounds = 15;
     subject.quickRounds = 5;
     // A switch that leaves something in the old colors would be fast.
-    subject.prepare = [library, literal, pages, literalPages] {
+    subject.prepare = [library, literal, pages, literalPages, client, literalClient] {
         QList<double> pictures;
         for (int i = 0; i < 2; ++i) {
             const double ours = library->ask(Picture);
@@ -403,7 +492,10 @@ bench::Subject bench::themeSwitch()
             pictures << ours;
             if (pages->ask(Picture) != literalPages->ask(Picture))
                 return QStringLiteral("the pages of the library look different from the literal ones");
-            for (Peer *peer : {library.get(), literal.get(), pages.get(), literalPages.get()})
+            if (client->ask(Picture) != literalClient->ask(Picture))
+                return QStringLiteral("the client of the library looks different from the literal one");
+            for (Peer *peer :
+                 {library.get(), literal.get(), pages.get(), literalPages.get(), client.get(), literalClient.get()})
                 peer->ask(Switch);
         }
         return QString();
@@ -419,6 +511,8 @@ bench::Subject bench::themeSwitch()
         {Fivefold, asked(fivefold, Switch)},
         {Pages, asked(pages, Switch)},
         {LiteralPages, asked(literalPages, Switch)},
+        {Client, asked(client, Switch)},
+        {LiteralClient, asked(literalClient, Switch)},
         {First, asked(library, ChildrenFirst)},
         {LiteralFirst, asked(literal, ChildrenFirst)},
         {Calls, asked(library, HeapCalls), Variant::Count},
@@ -437,6 +531,7 @@ bench::Subject bench::themeSwitch()
         {QLatin1String("theme switch, 5,000 widgets against 1,000"), Fivefold, Library, 5.3},
         {QLatin1String("theme switch, ten pages, one visible"), Pages, LiteralPages, 0.025},
         {QLatin1String("theme switch, ten pages against all visible"), Pages, Literal, 0.025},
+        {QLatin1String("theme switch, messaging client, 2,000 elements"), Client, LiteralClient, 0.16},
         {QLatin1String("theme switch, first styling, children first"), First, LiteralFirst, 0.13},
         {QLatin1String("theme switch, heap calls for each widget"), Calls, AllowedCalls, 1},
         {QLatin1String("theme switch, memory for each widget, over a plain one"), KiB, AllowedKiB, 1},
