@@ -86,6 +86,7 @@ QString templateOf(const QString &letters)
         case 'D':
             css += QLatin1String("#three { background-color: $(edge.checked); } [toolTip=\"tip\"] { border: none; }");
             break;
+        case 'L': css += QLatin1String("WFrame:no-frame { background-color: $(edge.hovered); }"); break;
         case 'X': css += QLatin1String("$backgroundColors: fixed; margin: 2px;"); break;
         case 'T': css += QLatin1String("$textColors: text;"); break;
         default: css += QLatin1String("$borders: all $(ground.normal); "); break; // expanded in two passes
@@ -523,6 +524,8 @@ void tst_Restyle::stories_data()
         "a<w:WFrame:S b<a:WFrame:U c<a:WFrame:U d<a:WRadioButton:U e<a:WRadioButton:U "
         "f<a:WWidget:U g<a:WWidget:U",
         "show:w 0 1 shot:c shot:e shot:g shot:w 2 hide:c theme:0 shot:c show:c shot:w");
+    row("equals of which one has no line", "a<w:WFrame:S b<a:WFrame:FL c<a:WFrame:FL d<a:WFrame:FL",
+        "show:w 0 1 line:c shot:w 2 line:b shot:w 1");
     row("equals at other sizes of fonts",
         "a<w:WFrame:S b<a:WRadioButton:F c<a:WRadioButton:F d<a:WFrame:F e<a:WFrame:F",
         "show:w 0 1 scale:=14 2 scale:=10 1");
