@@ -84,6 +84,8 @@ public:
     int borderWidth() const;
     int borderRadius() const;
 
+    /// Has the memory ready for answerThemeChange().
+    void prefetch() const;
     /// Has the widget's class answer a change of the theme; the widget may be gone afterwards.
     void answerThemeChange();
 

@@ -38,6 +38,7 @@ public:
     void noticeThemeType();
     void take(const StyleTemplate::Directives &directives);
     void expandInTwoPasses(const ColorTable &table);
+    bool hasText() const;
     bool isUpToDate(const StyleTemplate *from, quint64 content) const;
     void give(const QString &text, bool isOnlyColors);
     void postpone(quint64 content);
@@ -53,6 +54,7 @@ public:
     bool hasToWait() const { return isPolished && !widget->isVisible(); }
 
     ThemeSupport &support;
+    bool *isGone = nullptr; // to be told by the destructor
     QWidget *const widget;
     const Hooks *const hooks;
     bool attached = false;
@@ -65,6 +67,7 @@ public:
     quint64 content = 0;
     QString text;
     QString shortText; // what Qt's style engine is told instead, if anything
+    bool isTextSure = false; // to be the widget's sheet
     bool isWaiting = false; // to be given to Qt
     bool isTextDue = false; // nor made
     QString replaced; // by what waits
