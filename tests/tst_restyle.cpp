@@ -375,6 +375,7 @@ private Q_SLOTS:
     void report();
     void equalSets();
     void listsOfChildren();
+    void restlessWidget();
 
 private:
     void compare(const QString &tree, const std::function<void(Stage &)> &tell);
@@ -663,6 +664,35 @@ void tst_Restyle::listsOfChildren()
     };
     s.theme(1);
     QCOMPARE(list("a"), QObjectList({s.at("p"), s.at("d"), layout, s.at("new")}));
+}
+
+// Whoever answers a style change with another template.
+void tst_Restyle::restlessWidget()
+{
+    struct Host : WFrame
+    {
+        int rounds = 0, depth = 0, deepest = 0;
+        void changeEvent(QEvent *event) override
+        {
+            WFrame::changeEvent(event);
+            if (event->type() != QEvent::StyleChange || rounds > 150)
+                return;
+            deepest = std::max(deepest, ++depth);
+            setCSS(QStringLiteral("color: %1;").arg(++rounds % 2 ? QLatin1String("red") : QLatin1String("blue")));
+            --depth;
+        }
+    } host;
+    host.setObjectName(QStringLiteral("restless"));
+    host.show();
+    WarningLog log;
+    host.setCSS(QStringLiteral("color: green;"));
+    QTRY_VERIFY(host.rounds > 150);
+    QCOMPARE(host.deepest, 1);
+    QCoreApplication::processEvents();
+    QVERIFY(host.QWidget::styleSheet().contains(QLatin1String("red")));
+    const QStringList warnings = log.take();
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY(warnings.first().startsWith(QLatin1String("ThemeSupport - Restyled 100 times within a second: WFrame(")));
 }
 
 W_TEST_MAIN(tst_Restyle)

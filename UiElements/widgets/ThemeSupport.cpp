@@ -14,6 +14,7 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QFrame>
 #include <QHash>
@@ -260,7 +261,19 @@ void ThemeSupport::setCss(const QString &css)
         d->css = css;
         d->source = StyleTemplate::shared(css);
     }
-    refresh();
+    if (!d->isGiving || d->expanded == d->source) {
+        refresh();
+        return;
+    }
+    // Who answers a style change with another template would have it answered once more, and so on.
+    if (!std::exchange(d->isRefreshDue, true))
+        QMetaObject::invokeMethod(
+            d->widget,
+            [this] {
+                d->isRefreshDue = false;
+                refresh();
+            },
+            Qt::QueuedConnection);
 }
 
 void ThemeSupport::refresh()
@@ -354,8 +367,7 @@ void ThemeSupport::Private::give(const QString &newText, bool isOnlyColors)
     } else if (widget->styleSheet() != text || isAncestorNewer) {
         RestyleScope::count(&RestyleReport::restyled);
         isWaiting = isAncestorNewer = isUnread = false;
-        const StyleEngine::Reads reading;
-        widget->setStyleSheet(text);
+        setSheet(text);
         isTextSure = true;
         support.applyMargins(); // a tree takes those of its frame after its last style event
     }
@@ -509,9 +521,35 @@ void ThemeSupport::Private::setSheetOfThisOnly(const QString &sheet)
             RestyleScope::add(child);
         }
     }
-    const StyleEngine::Reads reading;
-    widget->setStyleSheet(sheet);
+    setSheet(sheet);
     isTextSure = sheet == text;
+}
+
+void ThemeSupport::Private::setSheet(const QString &sheet)
+{
+#ifndef QT_NO_DEBUG
+    warnIfRestless();
+#endif
+    const StyleEngine::Reads reading;
+    const bool wasGiving = std::exchange(isGiving, true);
+    widget->setStyleSheet(sheet);
+    isGiving = wasGiving;
+}
+
+// A widget that changes with every event costs all the time there is, and nothing else tells which one it is.
+void ThemeSupport::Private::warnIfRestless()
+{
+    constexpr int sane = 100; // for each second
+    static const QElapsedTimer clock = [] {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }();
+    const qint64 second = clock.elapsed() / 1000;
+    if (std::exchange(styledIn, second) != second)
+        timesStyled = 0;
+    if (++timesStyled == sane && !std::exchange(isReportedRestless, true))
+        qWarning() << "ThemeSupport - Restyled" << sane << "times within a second:" << widget;
 }
 
 void ThemeSupport::polishIfNeeded()

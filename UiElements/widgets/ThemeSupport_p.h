@@ -46,6 +46,8 @@ public:
     void giveColors();
     void noticeForeignSheet();
     void setSheetOfThisOnly(const QString &sheet);
+    void setSheet(const QString &sheet);
+    void warnIfRestless();
     void setNewText(const QString &text, quint64 content);
     void leaveLook();
     void readByEngine();
@@ -75,6 +77,11 @@ public:
     bool isPolished = false; // was shown, or measured
     bool isGettingColors = false;
     bool isUnread = false; // Qt's style engine has not looked at the sheet since it was set
+    bool isGiving = false; // a sheet to Qt
+    bool isRefreshDue = false; // with the next event
+    bool isReportedRestless = false;
+    int timesStyled = 0;
+    qint64 styledIn = -1; // which second
     bool isCounted = false; // in the report, before its turn to announce
     std::shared_ptr<SharedLook> look;
 

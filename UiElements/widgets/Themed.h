@@ -33,6 +33,8 @@ class Themed : public Base
 public:
     /// The template. Unlike the property it is never the expanded text, which QWidget::styleSheet() returns.
     QString getCSS() const { return m_theme.css(); }
+    /// One that is set in answer to the widget's own style change comes with the next event. Debug builds report a
+    /// widget that is restyled 100 times within a second.
     void setCSS(const QString &css) { m_theme.setCss(css); }
     /// The same as setCSS(): code generated from forms calls this.
     void setStyleSheet(const QString &css) { setCSS(css); }
