@@ -134,8 +134,8 @@ private:
     {
         if (m_faults.empty())
             return false;
-        // The first in the file, because names of color sets come in another order. Of very many, one among these will do:
-        // to find a place takes reading the file.
+        // The first in the file, because names of color sets come in another order. Of very many, one among these will
+        // do: to find a place takes reading the file.
         constexpr std::size_t enough = 50;
         const QByteArray &bytes = m_files->at(path).bytes;
         int first = bytes.size() + 1;
