@@ -33,7 +33,8 @@ GalleryBar::GalleryBar(const GalleryThemes &themes, QWidget *parent)
     row->addLayout(m_fields);
 
     m_family = addChoice(tr("Theme"), QStringLiteral("theme"));
-    for (const GalleryThemes::Family &family : themes.families())
+    const auto families = themes.families();
+    for (const GalleryThemes::Family &family : families)
         m_family->addItem(family.title, family.name);
     m_brightness = addChoice(tr("Appearance"), QStringLiteral("appearance"));
     m_brightness->addItem(tr("Light"), false);

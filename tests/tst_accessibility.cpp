@@ -3,11 +3,11 @@
 
 #include "GalleryThemes.h"
 #include "GalleryWindow.h"
+#include "support/Accessibility.h"
 #include "support/WApplicationMain.h"
 
 #include <QAccessible>
 #include <QButtonGroup>
-#include <QLibrary>
 #include <QTimer>
 #include <QWindow>
 
@@ -107,20 +107,6 @@ Widgets groupOf(QWidget *widget)
             members << member;
     }
     return members;
-}
-
-// The platform tells whether somebody listens; the one without a display has nobody, and no public function says so.
-bool setAccessibilityActive(bool active)
-{
-    QLibrary gui(QStringLiteral("Qt5Gui"), 5);
-    const auto platform = reinterpret_cast<void **>(gui.resolve("_ZN22QGuiApplicationPrivate20platform_integrationE"));
-    const auto accessibility =
-        reinterpret_cast<void *(*)(const void *)>(gui.resolve("_ZNK20QPlatformIntegration13accessibilityEv"));
-    const auto setActive =
-        reinterpret_cast<void (*)(void *, bool)>(gui.resolve("_ZN22QPlatformAccessibility9setActiveEb"));
-    if (platform && accessibility && setActive)
-        setActive(accessibility(*platform), active);
-    return QAccessible::isActive() == active;
 }
 
 /// What is announced while it lives, of states only the check, with what a screen reader is told that asks at once.
@@ -393,7 +379,7 @@ void tst_Accessibility::tree()
     collect(QAccessible::queryAccessibleInterface(m_window.get()), &nodes, &faults);
     QCOMPARE(faults, QByteArray());
 
-    operableOn(m_window.get()).first()->setFocus(Qt::TabFocusReason);
+    operableOn(m_window.get()).constFirst()->setFocus(Qt::TabFocusReason);
     int count = 0;
     const auto all = m_window->findChildren<QWidget *>();
     for (QWidget *widget : all) {

@@ -1,3 +1,4 @@
+#include "support/Accessibility.h"
 #include "support/Colors.h"
 #include "support/WApplicationMain.h"
 #include "support/WarningLog.h"
@@ -12,7 +13,6 @@
 #include <UiElements/widgets/WFrame.h>
 
 #include <QAccessible>
-#include <QLibrary>
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
@@ -137,20 +137,6 @@ QRect colored(const QImage &image, const QColor &color)
         }
     }
     return bounds;
-}
-
-// The platform tells whether somebody listens; the one without a display has nobody, and no public function says so.
-bool setAccessibilityActive(bool active)
-{
-    QLibrary gui(QStringLiteral("Qt5Gui"), 5);
-    const auto platform = reinterpret_cast<void **>(gui.resolve("_ZN22QGuiApplicationPrivate20platform_integrationE"));
-    const auto accessibility =
-        reinterpret_cast<void *(*)(const void *)>(gui.resolve("_ZNK20QPlatformIntegration13accessibilityEv"));
-    const auto setActive =
-        reinterpret_cast<void (*)(void *, bool)>(gui.resolve("_ZN22QPlatformAccessibility9setActiveEb"));
-    if (platform && accessibility && setActive)
-        setActive(accessibility(*platform), active);
-    return QAccessible::isActive() == active;
 }
 
 // Accessibility events of one object.

@@ -19,7 +19,9 @@
 namespace {
 
 // The pages are pictured at twice their size, for which a program is another one from its start.
-const bool isAtTwiceTheSize = qputenv("QT_SCALE_FACTOR", "2") && qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+const bool isAtTwiceTheSize = [] {
+    return qputenv("QT_SCALE_FACTOR", "2") && qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+}();
 
 const QString Config = QStringLiteral(UIELEMENTS_CONFIG_DIR);
 
@@ -433,7 +435,8 @@ void tst_Contrast::focusShows()
     const Theme &shipped = m_themes[std::size_t(theme)];
     const QColor focused = color(shipped, set, WColorSet::Focused);
     QCOMPARE(focused.alpha(), 255);
-    for (const QString &name : list("background-primary background-secondary background-tertiary")) {
+    const QStringList panes = list("background-primary background-secondary background-tertiary");
+    for (const QString &name : panes) {
         const QColor pane = color(shipped, name, WColorSet::Normal);
         const QColor resting = Contrast::over(color(shipped, set, WColorSet::Normal), pane);
         const int difference =

@@ -704,7 +704,7 @@ void tst_QmlControllers::dialogKeys()
     QStringList told;
     connect(&dialog, &DialogContext::accepted, this, [&] { told << QStringLiteral("accepted"); });
     connect(&dialog, &DialogContext::rejected, this, [&] { told << QStringLiteral("rejected"); });
-    connect(&dialog, &DialogContext::closed, this, [&] { told << QStringLiteral("closed"); });
+    connect(&dialog, &DialogContext::closed, this, [told] { *told << QStringLiteral("closed"); });
     QVERIFY(dialog.open());
     QVERIFY(QTest::qWaitForWindowActive(dialog.view()));
     for (const int key : keys) {
@@ -790,14 +790,14 @@ void tst_QmlControllers::openedAgainWhenAccepted()
     PopupContext balloon(m_factory, QStringLiteral("BalloonPopup.qml"), &main);
     balloon.setTarget(QRect(100, 100, 20, 20));
     WQuickViewContext *const context = popup ? static_cast<WQuickViewContext *>(&balloon) : &dialog;
-    QStringList told;
-    const auto onAccepted = [&] {
-        told << QStringLiteral("accepted");
-        told << (context->open() ? QStringLiteral("open") : QStringLiteral("refused"));
+    const auto told = std::make_shared<QStringList>();
+    const auto onAccepted = [told, context] {
+        *told << QStringLiteral("accepted");
+        *told << (context->open() ? QStringLiteral("open") : QStringLiteral("refused"));
     };
     connect(&dialog, &DialogContext::accepted, this, onAccepted);
     connect(&balloon, &PopupContext::accepted, this, onAccepted);
-    connect(context, &WQuickViewContext::opened, this, [&] { told << QStringLiteral("opened"); });
+    connect(context, &WQuickViewContext::opened, this, [told] { *told << QStringLiteral("opened"); });
     connect(context, &WQuickViewContext::closed, this, [&] { told << QStringLiteral("closed"); });
     QVERIFY(context->open());
     const QPointer<WQuickView> first = context->view();
@@ -806,7 +806,7 @@ void tst_QmlControllers::openedAgainWhenAccepted()
         balloon.accept();
     else
         dialog.accept();
-    QCOMPARE(told.join(QLatin1Char(' ')), QStringLiteral("opened accepted closed opened open"));
+    QCOMPARE(told->join(QLatin1Char(' ')), QStringLiteral("opened accepted closed opened open"));
     QVERIFY(context->isOpen() && context->view() != first);
     context->close();
 }

@@ -310,8 +310,8 @@ QVariant text(const char *value)
 
 Q_DECLARE_METATYPE(SettingList)
 Q_DECLARE_METATYPE(Portal::Manner)
-using AppearanceSignal = void (WSystemAppearance::*)();
-Q_DECLARE_METATYPE(AppearanceSignal)
+using Arm = std::function<void(const QPointer<WSystemAppearance> &)>;
+Q_DECLARE_METATYPE(Arm)
 
 void tst_SystemAppearance::initTestCase()
 {
@@ -702,24 +702,29 @@ void tst_SystemAppearance::endsWhileAsking()
 
 void tst_SystemAppearance::endsInSlot_data()
 {
-    QTest::addColumn<AppearanceSignal>("signal");
+    QTest::addColumn<Arm>("arm");
+    const auto on = [](auto signal) {
+        return Arm([signal](const QPointer<WSystemAppearance> &appearance) {
+            connect(appearance, signal, appearance, [appearance] { delete appearance; });
+        });
+    };
     QTest::addColumn<bool>("isFirst");
-    QTest::newRow("known") << AppearanceSignal(&WSystemAppearance::knownChanged) << true;
-    QTest::newRow("scheme") << AppearanceSignal(&WSystemAppearance::colorSchemeChanged) << true;
-    QTest::newRow("contrast") << AppearanceSignal(&WSystemAppearance::highContrastChanged) << true;
-    QTest::newRow("motion") << AppearanceSignal(&WSystemAppearance::reducedMotionChanged) << true;
-    QTest::newRow("change of scheme") << AppearanceSignal(&WSystemAppearance::colorSchemeChanged) << false;
+    QTest::newRow("known") << on(&WSystemAppearance::knownChanged) << true;
+    QTest::newRow("scheme") << on(&WSystemAppearance::colorSchemeChanged) << true;
+    QTest::newRow("contrast") << on(&WSystemAppearance::highContrastChanged) << true;
+    QTest::newRow("motion") << on(&WSystemAppearance::reducedMotionChanged) << true;
+    QTest::newRow("change of scheme") << on(&WSystemAppearance::colorSchemeChanged) << false;
 }
 
 void tst_SystemAppearance::endsInSlot()
 {
-    QFETCH(AppearanceSignal, signal);
+    QFETCH(Arm, arm);
     QFETCH(bool, isFirst);
     const SettingList all {{"gnome/gtk-theme", text("HighContrastInverse")}, {"gnome/enable-animations", false}};
     Portal portal(*m_bus, isFirst ? all : SettingList());
     QVERIFY(portal.appear());
     QPointer<WSystemAppearance> appearance(new WSystemAppearance);
-    connect(appearance, signal, appearance, [appearance] { delete appearance; });
+    arm(appearance);
     if (!isFirst) {
         QTRY_VERIFY(appearance->isKnown());
         for (const Setting &setting : all)

@@ -496,7 +496,7 @@ void tst_ThemeLoader::faults()
         QVERIFY(!(isSameFolder ? loader.reload() : loader.load(config.path(), QStringLiteral("default"))));
         QCOMPARE(log.take(), QStringList(QStringLiteral("WThemeLoader - ") + expected));
         QCOMPARE(failed.count(), 1);
-        QCOMPARE(failed.takeFirst().first().toString(), expected);
+        QCOMPARE(failed.takeFirst().constFirst().toString(), expected);
         QCOMPARE(loader.lastError(), expected);
     }
     loader.setColorScheme(Scheme::Dark); // the last good files serve on

@@ -14,11 +14,11 @@ namespace {
 // While a session starts a portal may take half a minute. Nobody waits meanwhile.
 constexpr int timeLimit = 60000; // ms
 
-constexpr QLatin1String busService("org.freedesktop.DBus");
-constexpr QLatin1String busPath("/org/freedesktop/DBus");
-constexpr QLatin1String portalService("org.freedesktop.portal.Desktop");
-constexpr QLatin1String portalPath("/org/freedesktop/portal/desktop");
-constexpr QLatin1String settingsInterface("org.freedesktop.portal.Settings");
+const QLatin1String busService("org.freedesktop.DBus");
+const QLatin1String busPath("/org/freedesktop/DBus");
+const QLatin1String portalService("org.freedesktop.portal.Desktop");
+const QLatin1String portalPath("/org/freedesktop/portal/desktop");
+const QLatin1String settingsInterface("org.freedesktop.portal.Settings");
 
 QString uniqueConnectionName()
 {

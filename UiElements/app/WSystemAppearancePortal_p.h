@@ -18,9 +18,9 @@ class WSystemAppearancePortal : public QObject
 public:
     using Settings = QMap<QString, QVariantMap>; ///< by name space, then by key
 
-    static constexpr QLatin1String appearanceSpace {"org.freedesktop.appearance"};
-    static constexpr QLatin1String interfaceSpace {"org.gnome.desktop.interface"};
-    static constexpr QLatin1String accessibilitySpace {"org.gnome.desktop.a11y.interface"};
+    static inline const QLatin1String appearanceSpace {"org.freedesktop.appearance"};
+    static inline const QLatin1String interfaceSpace {"org.gnome.desktop.interface"};
+    static inline const QLatin1String accessibilitySpace {"org.gnome.desktop.a11y.interface"};
 
     explicit WSystemAppearancePortal(QObject *parent);
     ~WSystemAppearancePortal() override;
