@@ -704,7 +704,7 @@ void tst_QmlControllers::dialogKeys()
     QStringList told;
     connect(&dialog, &DialogContext::accepted, this, [&] { told << QStringLiteral("accepted"); });
     connect(&dialog, &DialogContext::rejected, this, [&] { told << QStringLiteral("rejected"); });
-    connect(&dialog, &DialogContext::closed, this, [told] { *told << QStringLiteral("closed"); });
+    connect(&dialog, &DialogContext::closed, this, [&] { told << QStringLiteral("closed"); });
     QVERIFY(dialog.open());
     QVERIFY(QTest::qWaitForWindowActive(dialog.view()));
     for (const int key : keys) {
@@ -798,7 +798,7 @@ void tst_QmlControllers::openedAgainWhenAccepted()
     connect(&dialog, &DialogContext::accepted, this, onAccepted);
     connect(&balloon, &PopupContext::accepted, this, onAccepted);
     connect(context, &WQuickViewContext::opened, this, [told] { *told << QStringLiteral("opened"); });
-    connect(context, &WQuickViewContext::closed, this, [&] { told << QStringLiteral("closed"); });
+    connect(context, &WQuickViewContext::closed, this, [told] { *told << QStringLiteral("closed"); });
     QVERIFY(context->open());
     const QPointer<WQuickView> first = context->view();
     QCOMPARE(first->transientParent(), popup ? main.windowHandle() : nullptr);
