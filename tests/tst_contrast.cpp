@@ -13,15 +13,14 @@
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
+#include <cstdlib>
 #include <map>
 #include <set>
 
 namespace {
 
 // The pages are pictured at twice their size, for which a program is another one from its start.
-const bool isAtTwiceTheSize = [] {
-    return qputenv("QT_SCALE_FACTOR", "2") && qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
-}();
+const int isAtTwiceTheSize = setenv("QT_SCALE_FACTOR", "2", 1) + setenv("QT_ENABLE_HIGHDPI_SCALING", "0", 1);
 
 const QString Config = QStringLiteral(UIELEMENTS_CONFIG_DIR);
 

@@ -86,6 +86,7 @@ QString templateOf(const QString &letters)
         case 'D':
             css += QLatin1String("#three { background-color: $(edge.checked); } [toolTip=\"tip\"] { border: none; }");
             break;
+        case 'P': css += QLatin1String("#x #one { border: 5px solid $(edge.pressed); }"); break;
         case 'L': css += QLatin1String("WFrame:no-frame { background-color: $(edge.hovered); }"); break;
         case 'X': css += QLatin1String("$backgroundColors: fixed; margin: 2px;"); break;
         case 'T': css += QLatin1String("$textColors: text;"); break;
@@ -232,6 +233,8 @@ public:
                 widget->update();
             } else if (verb == QLatin1String("scale")) {
                 WApplication::find()->setFontScaleFactor(value.toFloat() / 10);
+            } else if (verb == QLatin1String("fill")) {
+                widget->setAutoFillBackground(true);
             } else if (verb == QLatin1String("mark")) {
                 widget->setProperty("marked", true);
                 widget->update();
@@ -483,6 +486,11 @@ void tst_Restyle::stories_data()
     row("children styled first", "a<w:WFrame b<a:QWidget c<b:WFrame d<c:WRadioButton:F e<c:QLabel",
         "css:c=X css:a=R show:w 0 1 css:c=F shot:w 2");
     row("names", "a<w:WFrame:R #one<a:WFrame:T c<a:WFrame:X #two<c:QLabel", "show:w 0 1 rename:#one=two 2");
+    row("rules for whatever is below", "a<w:WFrame:U b<a:WRadioButton:T c<w:WRadioButton:T d<a:WRadioButton:T",
+        "show:w 0 1 2");
+    row("rules for a name inside of another", "a<w:WFrame:P #x<a:WWidget:X b<a:WFrame:T c<#x:WFrame:T",
+        "show:w 0 rename:b=one rename:c=one 1 2");
+    row("backgrounds filled by the host", "a<w:WFrame:T b<w:WFrame:T c<w:WFrame:T", "show:w 1 fill:b 2 1 fill:a 2");
     row("token inside a directive", "a<w:WFrame:2R b<a:WFrame:F", "show:w 0 1 2");
     row("a state that only the class knows", "#one<w:Own:F", "show:w 1 mark:#one shot:w");
     row("children for a leaf", "a<w:WFrame:F",

@@ -296,6 +296,9 @@ void StyleTemplate::readScope(QString rest)
     rest.remove(quoted).replace(attribute, QStringLiteral("[]"));
     m_scope.isKnown = !unusual.match(rest).hasMatch();
     const QStringList parts = rest.split(QLatin1Char('{'));
+    // Declarations without a selector are for all that is below, too.
+    if (!m_scope.hasOwn && parts.size() == 1 && !rest.trimmed().isEmpty())
+        m_scope.some.push_back({});
     for (int i = 0; m_scope.isKnown && i + 1 < parts.size(); ++i) {
         const QString &part = parts.at(i);
         m_scope.isKnown = i == 0 || part.contains(QLatin1Char('}'));
@@ -309,8 +312,10 @@ void StyleTemplate::readScope(QString rest)
             }
             const QRegularExpressionMatch match = ofSome.match(selector);
             const QString className = match.captured(QStringLiteral("class"));
+            // What stands before it, or an attribute, may tell apart even those of one name.
+            const bool isByName = match.capturedStart() == 0 && !selector.contains(QLatin1Char('['));
             m_scope.some.push_back({className == QLatin1String("*") ? QByteArray() : className.toLatin1(),
-                                    match.captured(QStringLiteral("name"))});
+                                    isByName ? match.captured(QStringLiteral("name")) : QString()});
         }
     }
 }

@@ -167,7 +167,9 @@ void SharedLook::restyle(const std::vector<ThemeSupport *> &themed)
         ThemeSupport::Private &d = *themed[turn.index]->d;
         d.isCounted = true;
         if (turn.look) {
-            turn.look->giveTo(&d);
+            // Unless somebody gave it another template, who was told of the palette of one before it.
+            if (d.text == turn.text && d.content == turn.content)
+                turn.look->giveTo(&d);
         } else {
             d.content = turn.content;
             d.shortText.clear();
@@ -226,8 +228,11 @@ std::vector<SharedLook::Turn> SharedLook::findTurns(const std::vector<ThemeSuppo
         if (!isNew || !above.isKnown)
             continue;
         Turn turn {i, content, d.text, nullptr};
-        const bool canShare =
-            isKnown && !widget->isWindow() && !widget->testAttribute(Qt::WA_SetStyle) && !hasPlainChildren(widget);
+        // Polishing ends what a host set of these, and the engine remembers that it did.
+        const bool isOfHost =
+            d.hasFilledBackground || widget->autoFillBackground() || widget->testAttribute(Qt::WA_OpaquePaintEvent);
+        const bool canShare = isKnown && !isOfHost && !widget->isWindow() && !widget->testAttribute(Qt::WA_SetStyle)
+            && !hasPlainChildren(widget);
         std::vector<int> from;
         QString name;
         if (canShare && rules.findForWidget(widget, above.rules, forOthers, &from, &name)) {

@@ -157,7 +157,10 @@ void ThemeSupport::Private::take(const StyleTemplate::Directives &directives)
 bool ThemeSupport::follow(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::Polish: d->isPolished = true; break;
+    case QEvent::Polish:
+        d->isPolished = true;
+        d->hasFilledBackground = d->hasFilledBackground || d->widget->autoFillBackground();
+        break;
     case QEvent::StyleChange:
         if (d->isGettingColors)
             return true;
@@ -531,6 +534,7 @@ void ThemeSupport::Private::setSheet(const QString &sheet)
     warnIfRestless();
 #endif
     const StyleEngine::Reads reading;
+    hasFilledBackground = hasFilledBackground || widget->autoFillBackground();
     const bool wasGiving = std::exchange(isGiving, true);
     widget->setStyleSheet(sheet);
     isGiving = wasGiving;

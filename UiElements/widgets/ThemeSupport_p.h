@@ -77,6 +77,7 @@ public:
     bool isPolished = false; // was shown, or measured
     bool isGettingColors = false;
     bool isUnread = false; // Qt's style engine has not looked at the sheet since it was set
+    bool hasFilledBackground = false; // by the host, once
     bool isGiving = false; // a sheet to Qt
     bool isRefreshDue = false; // with the next event
     bool isReportedRestless = false;
