@@ -490,7 +490,7 @@ void tst_Restyle::stories_data()
         "show:w 0 1 2");
     row("rules for a name inside of another", "a<w:WFrame:P #x<a:WWidget:X b<a:WFrame:T c<#x:WFrame:T",
         "show:w 0 rename:b=one rename:c=one 1 2");
-    row("backgrounds filled by the host", "a<w:WFrame:T b<w:WFrame:T c<w:WFrame:T", "show:w 1 fill:b 2 1 fill:a 2");
+    row("backgrounds filled by the host", "a<w:WFrame:U b<w:WFrame:U c<w:WFrame:U", "show:w 1 fill:b 2 1 fill:a 2");
     row("token inside a directive", "a<w:WFrame:2R b<a:WFrame:F", "show:w 0 1 2");
     row("a state that only the class knows", "#one<w:Own:F", "show:w 1 mark:#one shot:w");
     row("children for a leaf", "a<w:WFrame:F",
