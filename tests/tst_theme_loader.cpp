@@ -549,6 +549,7 @@ void tst_ThemeLoader::refusedCalls()
     QCOMPARE(loader.contrast(), Contrast::FollowSystem);
     QCOMPARE(loader.family(), QStringLiteral("default"));
     QCOMPARE(heard.take(), QStringLiteral("0 0 0 0"));
+    QCOMPARE(loader.lastError(), QString()); // all is well with what is shown
     // The folder that was refused is not that of the next call.
     QVERIFY(loader.reload());
     QCOMPARE(shown(), LightTheme);

@@ -197,7 +197,7 @@ public:
     enum Reason { Asked, AskedAgain, Noticed }; ///< why files are read
     /// Calls `accept`, where it is given, once the files are read without a fault.
     bool take(const Request &wanted, Reason why, const std::function<void()> &accept = {});
-    bool fail(const QString &message);
+    bool fail(const QString &message, bool isOurs);
     void setLastError(const QString &message);
     void onFilesChanged();
     void apply();
@@ -282,7 +282,7 @@ bool WThemeLoader::Private::take(const Request &wanted, Reason why, const std::f
     }
     if (!isGood) {
         // The same fault is no news: something else has changed.
-        return why == Noticed && reading.error() == lastError ? false : fail(reading.error());
+        return why == Noticed && reading.error() == lastError ? false : fail(reading.error(), isOurs);
     }
 
     const auto namesOf = [](const ThemeManifest &manifest) {
@@ -312,11 +312,13 @@ bool WThemeLoader::Private::take(const Request &wanted, Reason why, const std::f
     return true;
 }
 
-bool WThemeLoader::Private::fail(const QString &message)
+bool WThemeLoader::Private::fail(const QString &message, bool isOurs)
 {
     qWarning().noquote() << "WThemeLoader -" << message;
     const QPointer<WThemeLoader> self(q);
-    setLastError(message);
+    // Of files that are not shown nobody would ever hear that they are well again.
+    if (isOurs)
+        setLastError(message);
     if (self)
         Q_EMIT q->loadFailed(message);
     return false;
