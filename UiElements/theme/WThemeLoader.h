@@ -114,8 +114,8 @@ public:
     bool isWatching() const;
     void setWatching(bool watching);
 
-    /// What the last reading of the files that are shown failed for, as in loadFailed(); empty when it did not. A refused
-    /// call that asked for others, such as setFamily(), leaves it as it is.
+    /// What the last reading of the files that are shown failed for, as in loadFailed(); empty when it did not. A
+    /// refused call that asked for others, such as setFamily(), leaves it as it is.
     QString lastError() const;
 
 Q_SIGNALS:
